@@ -1,0 +1,188 @@
+#include "surface/looks.h"
+#include "surface/windows.h"
+
+namespace zelvo {
+namespace {
+
+constexpr int lotSize = 480;
+// Streets run between the lots, so rows and columns are not evenly spaced.
+constexpr std::array<int, boardWidth> columnLeft = {0,    960,  1440, 1920, 2400,
+                                                    3120, 3600, 4080, 4560, 5280};
+constexpr std::array<int, boardWidth> rowTop = {0,    720,  1200, 1920, 2400,
+                                                3120, 3600, 4200, 4680, 5280};
+constexpr int boardSize = columnLeft.back() + lotSize;
+
+struct Strip {
+  std::string_view text;
+  Box box;
+};
+
+// A street goes from Park Place to Madison Place; its ends beyond them bear no name.
+constexpr int parkPlace = columnLeft[1];
+constexpr int madisonPlace = columnLeft[8] + lotSize;
+constexpr int eastLots = columnLeft[9];
+
+constexpr std::array<Strip, 13> streets = {{
+    {"5th Ave", {0, 5160, boardSize, 120}},
+    {"4th Ave", {parkPlace, 4080, madisonPlace - parkPlace, 120}},
+    {"3 rd Ave", {parkPlace, 2880, madisonPlace - parkPlace, 240}},
+    {"2 nd Ave", {parkPlace, 1680, madisonPlace - parkPlace, 240}},
+    {"1st Ave", {parkPlace, 480, madisonPlace - parkPlace, 240}},
+    {"", {0, 480, lotSize, 240}},
+    {"", {eastLots, 480, lotSize, 240}},
+    {"", {0, 1680, lotSize, 240}},
+    {"", {eastLots, 1680, lotSize, 240}},
+    {"", {0, 2880, lotSize, 240}},
+    {"", {eastLots, 2880, lotSize, 240}},
+    {"", {0, 4080, lotSize, 120}},
+    {"", {eastLots, 4080, lotSize, 120}},
+}};
+
+constexpr std::array<Color, 6> lights = {0xd22f2f, 0xf08fb0, 0x8cc8f0,
+                                         0x3fa34d, 0xf2cf3a, looks::bankTeal};
+
+}  // namespace
+
+GFMWindow::GFMWindow(Surface& surface)
+    : Window(surface, {"GFM", "Game Board", 9504, 6756, TitleBar::Sizable}) {
+  PlaceBoard();
+  PlaceLedgers();
+  PlaceActions();
+  PlaceBottomStrip();
+  Place(Timer1, Kind::Timer, "Timer1", {});
+}
+
+void GFMWindow::PlaceBoard() {
+  Place(Panel3D1, Kind::Panel, "Panel3D1", {50, 30, 5805, 5800},
+        {.look = {.ground = looks::asphalt, .border = Border::Raised}});
+  for (int i = 0; i < 13; ++i) {
+    Place(Label7[i], Kind::Label, "Label7", streets[i].box,
+          {.caption = streets[i].text, .look = looks::street}, &Panel3D1, i);
+  }
+  Place(Label6[0], Kind::Label, "Label6", {madisonPlace, 0, eastLots - madisonPlace, boardSize},
+        {.caption = "M A D I S  O N    P L A C E", .look = looks::avenue}, &Panel3D1, 0);
+  Place(Label6[2], Kind::Label, "Label6", {2880, 0, 240, boardSize},
+        {.caption = "B  R O A D W A Y", .look = looks::avenue}, &Panel3D1, 2);
+  Place(Label6[4], Kind::Label, "Label6", {lotSize, 0, parkPlace - lotSize, boardSize},
+        {.caption = "P A R  K      P L A C E", .look = looks::avenue}, &Panel3D1, 4);
+  for (int lot = 0; lot < lotCount; ++lot) {
+    Place(Image1[lot], Kind::Image, "Image1",
+          {columnLeft[lot % boardWidth], rowTop[lot / boardWidth], lotSize, lotSize},
+          {.look = {.border = Border::Line}}, &Panel3D1, lot);
+  }
+}
+
+void GFMWindow::PlaceLedgers() {
+  using namespace looks;
+  Place(Panel3D2, Kind::Panel, "Panel3D2", {5880, 30, 3594, 6696}, {.look = panel});
+
+  const auto ledger = [this](int top, int side, Color colour, Control& emblem, Control& heading,
+                             Control& up, Control& credit, Control& worth, Control& owned) {
+    const bool player = side == 0;
+    constexpr int nameWidth = 1500;
+    constexpr int amountLeft = 90 + nameWidth;
+    constexpr int amountWidth = 1914;
+    Place(heading, Kind::Label, player ? "Label2" : "Label3", {90, top, 3414, 300},
+          {.caption = player ? "Player" : "Computer", .look = Heading(colour, Align::Center)},
+          &Panel3D2);
+    Place(emblem, Kind::Image, player ? "Image2" : "Image3", {120, top + 15, 270, 270},
+          {.picture = player ? PictureId::GFM_Image2 : PictureId::GFM_Image3}, &Panel3D2);
+    Place(up, Kind::Label, player ? "PUP" : "CUP", {2960, top + 40, 480, 220},
+          {.caption = "UP",
+           .visible = false,
+           .look = {.ink = ink,
+                    .ground = 0xf2cf3a,
+                    .letterHeight = 170,
+                    .bold = true,
+                    .align = Align::Center}},
+          &Panel3D2);
+    Place(Label4[side], Kind::Label, "Label4", {90, top + 310, nameWidth, 245},
+          {.caption = "Credit  $", .look = AmountName(colour)}, &Panel3D2, side);
+    Place(credit, Kind::Label, player ? "PCredit" : "CCredit",
+          {amountLeft, top + 310, amountWidth, 245}, {.look = amount}, &Panel3D2);
+    Place(Label5[side], Kind::Label, "Label5", {90, top + 565, nameWidth, 245},
+          {.caption = "Net Worth $", .look = AmountName(colour)}, &Panel3D2, side);
+    Place(worth, Kind::Label, player ? "PNW" : "CNW", {amountLeft, top + 565, amountWidth, 245},
+          {.look = amount}, &Panel3D2);
+    // The player's line is the one numbered 1.
+    const int line = 1 - side;
+    Place(NHLabel[line], Kind::Label, "NHLabel", {90, top + 820, 2714, 245},
+          {.caption = player ? "Number of properties owned " : "Number of properties owned  ",
+           .look = AmountName(colour)},
+          &Panel3D2, line);
+    Place(owned, Kind::Label, player ? "PNOH" : "CNOH", {2804, top + 820, 700, 245},
+          {.look = amount}, &Panel3D2);
+  };
+  ledger(80, 0, playerBlue, Image2, Label2, PUP, PCredit, PNW, PNOH);
+  ledger(1200, 1, computerRed, Image3, Label3, CUP, CCredit, CNW, CNOH);
+
+  Place(LSHOW, Kind::Label, "LSHOW", {90, 2320, 3414, 290},
+        {.look = {.ink = white, .ground = night, .letterHeight = 190, .align = Align::Center}},
+        &Panel3D2);
+  int left = 90;
+  for (int light = 1; light <= 6; ++light) {
+    const int width = 344 + 90 * light;
+    Place(LITE[light], Kind::Label, "LITE", {left, 2625, width, 95},
+          {.visible = false, .look = {.ground = lights[light - 1]}}, &Panel3D2, light);
+    left += width - 90;
+  }
+  Place(Panel3D3, Kind::Panel, "Panel3D3", {90, 2740, 3414, 1400}, {.look = panel}, &Panel3D2);
+  Place(PSHOW, Kind::Label, "PSHOW", {45, 45, 3324, 1310},
+        {.look = {.ground = cream, .letterHeight = 215}}, &Panel3D3);
+}
+
+void GFMWindow::PlaceActions() {
+  struct Icon {
+    Control& control;
+    std::string_view name;
+    PictureId picture;
+    int left;
+    int top;
+  };
+  const std::array<Icon, 7> icons = {{
+      {SUPER, "SUPER", PictureId::GFM_SUPER, 360, 4200},
+      {THRIFTY, "THRIFTY", PictureId::GFM_THRIFTY, 840, 4200},
+      {QUALITY, "QUALITY", PictureId::GFM_QUALITY, 1320, 4200},
+      {BEST, "BEST", PictureId::GFM_BEST, 1800, 4200},
+      {RAMADA, "RAMADA", PictureId::GFM_RAMADA, 2280, 4200},
+      {HILTON, "HILTON", PictureId::GFM_HILTON, 2760, 4200},
+      {Rest, "Rest", PictureId::GFM_Rest, 360, 4680},
+  }};
+  for (const Icon& icon : icons) {
+    Place(icon.control, Kind::Image, icon.name, {icon.left, icon.top, 480, 480},
+          {.tag = "0", .picture = icon.picture, .look = {.border = Border::Line}}, &Panel3D2);
+  }
+  const auto action = [this](Control& control, std::string_view name, Box box,
+                             std::string_view caption) {
+    Place(control, Kind::Button, name, box,
+          {.caption = caption, .visible = false, .look = looks::button}, &Panel3D2);
+  };
+  action(BUILDIT, "BUILDIT", {920, 4725, 2320, 400}, "Go ahead, Build it");
+  action(CMDBUY, "CMDBUY", {120, 5210, 1650, 410}, "Buy Property");
+  action(CMDBUILD, "CMDBUILD", {1824, 5210, 1650, 410}, "Select Building");
+  action(CMDSELL, "CMDSELL", {120, 5650, 1650, 410}, "Sell Property");
+  action(CMDSHOT, "CMDSHOT", {1824, 5650, 1650, 410}, "Sell Building");
+  Place(CMDGO, Kind::Button, "CMDGO", {360, 6110, 2880, 530}, {.picture = PictureId::GFM_CMDGO},
+        &Panel3D2);
+}
+
+void GFMWindow::PlaceBottomStrip() {
+  using namespace looks;
+  Place(Panel3D4, Kind::Panel, "Panel3D4", {50, 5850, 5805, 876}, {.look = panel});
+  Place(Label1, Kind::Label, "Label1", {80, 70, 2250, 370},
+        {.look = {.ink = playerBlue, .letterHeight = 200, .bold = true}}, &Panel3D4);
+  Place(Label10, Kind::Label, "Label10", {80, 450, 2250, 330},
+        {.caption = "Level", .look = {.letterHeight = 190}}, &Panel3D4);
+  Place(Label8, Kind::Label, "Label8", {2360, 70, 2080, 360},
+        {.caption = "First National Bank", .look = Heading(bankTeal, Align::Center)}, &Panel3D4);
+  Place(Label9, Kind::Label, "Label9", {2360, 450, 940, 340},
+        {.caption = "Net Worth $", .look = AmountName(bankTeal)}, &Panel3D4);
+  Place(BANKLABEL, Kind::Label, "BANKLABEL", {3300, 450, 1140, 340},
+        {.caption = "$", .look = amount}, &Panel3D4);
+  Place(CMDHELP, Kind::Button, "CMDHELP", {4500, 80, 600, 710}, {.picture = PictureId::GFM_CMDHELP},
+        &Panel3D4);
+  Place(CMDEXIT, Kind::Button, "CMDEXIT", {5140, 80, 600, 710}, {.picture = PictureId::GFM_CMDEXIT},
+        &Panel3D4);
+}
+
+}  // namespace zelvo

@@ -1,0 +1,62 @@
+#include "surface/control.h"
+
+#include "surface/platform.h"
+#include "surface/window.h"
+
+namespace zelvo {
+
+void Control::SetEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  if (kind_ == Kind::Timer) window_->platform().TimerChanged(*this);
+}
+
+void Control::SetValue(bool value) {
+  if (kind_ == Kind::Option && value) {
+    for (Control* other : window_->controls()) {
+      if (other->kind_ == Kind::Option) other->value_ = false;
+    }
+  }
+  value_ = value;
+}
+
+void Control::SetInterval(int milliseconds) {
+  interval_ = milliseconds;
+  window_->platform().TimerChanged(*this);
+}
+
+std::string Control::FullName() const {
+  std::string full(name_);
+  if (index_ != noIndex) full.append("(").append(std::to_string(index_)).append(")");
+  return full;
+}
+
+Box Control::Place() const {
+  Box place = box_;
+  for (const Control* outer = container_; outer != nullptr; outer = outer->container_) {
+    place.left += outer->box_.left;
+    place.top += outer->box_.top;
+  }
+  return place;
+}
+
+bool Control::VisibleInWindow() const {
+  for (const Control* control = this; control != nullptr; control = control->container_) {
+    if (!control->Visible) return false;
+  }
+  return true;
+}
+
+void Control::Reset() {
+  Tag = design_.tag;
+  Picture = design_.picture;
+  Visible = design_.visible;
+  Caption = design_.caption;
+  Text.clear();
+  enabled_ = design_.enabled;
+  value_ = design_.value;
+  interval_ = design_.interval;
+  if (kind_ == Kind::Timer) window_->platform().TimerChanged(*this);
+}
+
+}  // namespace zelvo

@@ -1,0 +1,126 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "surface/picture.h"
+
+namespace zelvo {
+
+class Game;
+class Window;
+
+/// What a control is. The options of one window form one group.
+enum class Kind : unsigned char { Button, CheckBox, Option, Label, Image, Panel, TextBox, Timer };
+
+/// A place in twips (1,440 to the inch), seen from the top left corner of the container.
+struct Box {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 0;
+};
+
+enum class Align : unsigned char { Left, Center, Right };
+enum class Border : unsigned char { None, Line, Sunken, Raised, Road };
+
+/// A colour as 0xRRGGBB, or `transparent`.
+using Color = int;
+constexpr Color transparent = -1;
+
+/// How a face is to draw a control. Design-time data only: no rule reads it.
+struct Look {
+  Color ink = 0x1d2530;
+  Color ground = transparent;
+  int letterHeight = 200;  ///< twips; a face may draw smaller to make a long text fit
+  bool bold = false;
+  Align align = Align::Left;
+  Border border = Border::None;
+  bool vertical = false;  ///< the text runs from bottom to top
+};
+
+class Control;
+
+/// The handlers of a control's events, from the table of events; null where there is none.
+struct Handlers {
+  using Function = void (*)(Game&, Control&);
+  Function click = nullptr;
+  Function mouseMove = nullptr;
+  Function timer = nullptr;
+  /// Clicks that arrive while another handler runs are dropped: the rules behind these controls
+  /// count on the lot in hand to stay put while they run.
+  bool dropsClicksWhileBusy = false;
+};
+
+/// What a control holds when its window is loaded.
+struct ControlDesign {
+  std::string_view caption = "";
+  std::string_view tag = "";
+  bool visible = true;
+  bool enabled = true;
+  bool value = false;
+  int interval = 0;  ///< milliseconds
+  PictureId picture = PictureId::None;
+  Look look = {};
+};
+
+/// One control of a window, of any kind; a kind uses the properties that it has and leaves the
+/// others at their design values. Properties whose change has consequences have a setter.
+class Control {
+ public:
+  static constexpr int noIndex = -1;
+
+  // The tag and the picture come first: the rules scan them for a hundred lots at a time.
+  std::string Tag;
+  PictureId Picture = PictureId::None;
+  bool Visible = true;
+  std::string Caption;
+  std::string Text;
+
+  bool Enabled() const { return enabled_; }
+  bool Value() const { return value_; }
+  int Interval() const { return interval_; }
+
+  /// Greys a button or an option out, or starts and stops a timer.
+  void SetEnabled(bool enabled);
+  /// Ticks a check box, or selects an option and with it clears the others of its window.
+  void SetValue(bool value);
+  /// Sets a timer's interval in milliseconds and starts its count anew; 0 silences it.
+  void SetInterval(int milliseconds);
+  /// True while a timer ticks: it is enabled and its interval is not 0.
+  bool Ticks() const { return enabled_ && interval_ > 0; }
+
+  Kind kind() const { return kind_; }
+  /// The name without an index, as in "Image1".
+  std::string_view name() const { return name_; }
+  /// The index in a control array, or `noIndex`.
+  int index() const { return index_; }
+  /// Name and index, as in "Image1(37)".
+  std::string FullName() const;
+  Window& window() const { return *window_; }
+  const Control* container() const { return container_; }
+  const ControlDesign& design() const { return design_; }
+  /// The place in the window in twips, containers reckoned in.
+  Box Place() const;
+  /// True if the control and the panels that hold it are all visible.
+  bool VisibleInWindow() const;
+
+  Handlers handlers;
+
+ private:
+  friend class Window;
+  void Reset();
+
+  bool enabled_ = true;
+  bool value_ = false;
+  int interval_ = 0;
+  Kind kind_ = Kind::Label;
+  int index_ = noIndex;
+  std::string_view name_;
+  Window* window_ = nullptr;
+  const Control* container_ = nullptr;
+  Box box_;
+  ControlDesign design_;
+};
+
+}  // namespace zelvo

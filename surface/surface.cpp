@@ -1,0 +1,167 @@
+#include "surface/surface.h"
+
+namespace zelvo {
+
+std::array<Window*, 13> Surface::Windows() {
+  return {&GST.Untouched(), &GFM.Untouched(), &ICF.Untouched(), &TT.Untouched(), &WINX.Untouched(),
+          &HH.Untouched(),  &HS.Untouched(),  &SV.Untouched(),  &RB.Untouched(), &ML.Untouched(),
+          &CHN.Untouched(), &BK.Untouched(),  &ABT.Untouched()};
+}
+
+Window* Surface::FindWindow(std::string_view name) {
+  for (Window* window : Windows()) {
+    if (window->name() == name) return window;
+  }
+  return nullptr;
+}
+
+void Surface::Load(Window& window) {
+  if (window.IsLoaded()) return;
+  window.state_ = WindowState::Hidden;
+  window.Reset();
+  Raise(window.handlers.load);
+}
+
+void Surface::Show(Window& window) {
+  if (ended_) return;
+  Load(window);
+  const bool wasShown = window.IsShown();
+  window.state_ = WindowState::Shown;
+  if (!wasShown) Raise(window.handlers.resize);
+  Activate(&window);
+}
+
+void Surface::ShowModal(Window& window) {
+  if (ended_) return;
+  modals_.push_back(&window);
+  Show(window);
+  if (window.IsShown() && !ended_) platform_.RunModal(window);
+  modals_.pop_back();
+  Activate(InputWindow());
+}
+
+void Surface::Hide(Window& window) {
+  if (window.IsShown()) window.state_ = WindowState::Hidden;
+}
+
+void Surface::Unload(Window& window) {
+  // The board's own unload handlers unload the board again.
+  if (!window.IsLoaded() || window.unloading_) return;
+  window.unloading_ = true;
+  Raise(window.handlers.queryUnload);
+  Raise(window.handlers.unload);
+  window.unloading_ = false;
+  window.Reset();
+  window.state_ = WindowState::NotLoaded;
+}
+
+void Surface::Yield() {
+  if (!ended_) platform_.Yield();
+}
+
+void Surface::YieldUntilEvent() {
+  if (!ended_) platform_.YieldUntilEvent();
+}
+
+Answer Surface::MessageBox(const std::string& text, MessageStyle style, const std::string& title) {
+  if (ended_) return style == MessageStyle::YesNoQuestion ? Answer::No : Answer::Ok;
+  ++messageBoxes_;
+  const Answer answer = platform_.MessageBox(text, style, title);
+  --messageBoxes_;
+  return answer;
+}
+
+void Surface::SetPointer(MousePointer pointer) {
+  pointer_ = pointer;
+  if (!ended_) platform_.SetPointer(pointer);
+}
+
+void Surface::Refresh(Window& window) {
+  if (!ended_) platform_.Refresh(window);
+}
+
+void Surface::End() {
+  if (ended_) return;
+  ended_ = true;
+  platform_.End();
+}
+
+Window* Surface::InputWindow() {
+  for (auto modal = modals_.rbegin(); modal != modals_.rend(); ++modal) {
+    if ((*modal)->IsShown()) return *modal;
+  }
+  if (GFM.Untouched().IsShown()) return &GFM.Untouched();
+  return GST.Untouched().IsShown() ? &GST.Untouched() : nullptr;
+}
+
+bool Surface::TakesInput(Window& window) {
+  if (ended_ || messageBoxes_ > 0 || running_ >= deepest || !window.IsShown()) return false;
+  // The board and the start window are both live as long as no modal window is up.
+  const Window* input = InputWindow();
+  return input == &window || input == &GFM.Untouched() || input == &GST.Untouched();
+}
+
+std::string Surface::WhyNoInput(Control& control) {
+  Window& window = control.window();
+  if (!window.IsShown()) return "the window " + std::string(window.name()) + " is not shown";
+  if (messageBoxes_ > 0) return "a message box keeps the window from input";
+  if (!TakesInput(window)) return "another window keeps this one from input";
+  if (!control.VisibleInWindow()) return "the control is hidden";
+  if (!control.Enabled()) return "the control is disabled";
+  return "";
+}
+
+void Surface::Click(Control& control) {
+  if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return;
+  if (control.handlers.dropsClicksWhileBusy && running_ > 0) return;
+  if (control.kind() == Kind::Option) control.SetValue(true);
+  if (control.kind() == Kind::CheckBox) control.SetValue(!control.Value());
+  Raise(control.handlers.click, control);
+}
+
+void Surface::Click(Window& window) {
+  if (TakesInput(window)) Raise(window.handlers.click);
+}
+
+void Surface::Hover(Control& control) {
+  if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return;
+  Raise(control.handlers.mouseMove, control);
+}
+
+void Surface::Hover(Window& window) {
+  if (TakesInput(window)) Raise(window.handlers.mouseMove);
+}
+
+void Surface::Close(Window& window) {
+  if (window.HasCloseBox() && TakesInput(window)) Unload(window);
+}
+
+void Surface::Resize(Window& window, Extent extent) {
+  if (ended_ || !window.IsShown()) return;
+  window.extent = extent;
+  Raise(window.handlers.resize);
+}
+
+void Surface::Tick(Control& timer) {
+  if (!ended_ && timer.window().IsLoaded() && timer.Ticks()) Raise(timer.handlers.timer, timer);
+}
+
+void Surface::Raise(WindowHandlers::Function handler) {
+  if (handler == nullptr || ended_) return;
+  ++running_;
+  handler(Self());
+  --running_;
+}
+
+void Surface::Raise(Handlers::Function handler, Control& control) {
+  if (handler == nullptr || ended_) return;
+  ++running_;
+  handler(Self(), control);
+  --running_;
+}
+
+void Surface::Activate(Window* window) {
+  if (window != nullptr && window->IsShown()) Raise(window->handlers.activate);
+}
+
+}  // namespace zelvo

@@ -1,0 +1,116 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+#include "surface/platform.h"
+#include "surface/windows.h"
+
+namespace zelvo {
+
+/// The thirteen windows, their life, and the way of the player's input to the handlers. `Game`
+/// derives from it, so that a rule reads `g.GFM->PCredit.Caption`.
+class Surface {
+ public:
+  explicit Surface(Platform& platform) : platform_(platform) {}
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+  virtual ~Surface() = default;
+
+  WindowSlot<GSTWindow> GST{*this};
+  WindowSlot<GFMWindow> GFM{*this};
+  WindowSlot<ICFWindow> ICF{*this};
+  WindowSlot<TTWindow> TT{*this};
+  WindowSlot<WINXWindow> WINX{*this};
+  WindowSlot<HHWindow> HH{*this};
+  WindowSlot<HSWindow> HS{*this};
+  WindowSlot<SVWindow> SV{*this};
+  WindowSlot<RBWindow> RB{*this};
+  WindowSlot<MLWindow> ML{*this};
+  WindowSlot<CHNWindow> CHN{*this};
+  WindowSlot<BKWindow> BK{*this};
+  WindowSlot<ABTWindow> ABT{*this};
+
+  Platform& platform() const { return platform_; }
+  /// All windows, loaded or not.
+  std::array<Window*, 13> Windows();
+  /// The window of that name; null if there is none.
+  Window* FindWindow(std::string_view name);
+
+  // The life of a window.
+
+  /// Gives a window its design values and raises its load event; nothing if it is loaded.
+  void Load(Window& window);
+  /// Shows a window beside the others and returns at once.
+  void Show(Window& window);
+  /// Shows a window above the others and returns when it is hidden or unloaded and its handlers
+  /// have ended.
+  void ShowModal(Window& window);
+  /// Hides a window; it keeps what it holds. Ends a modal show.
+  void Hide(Window& window);
+  /// Raises the events of unloading, then sets the window back to its design values in place.
+  void Unload(Window& window);
+
+  // Operations of the application. After `End` they all return at once.
+
+  void Yield();
+  void YieldUntilEvent();
+  Answer MessageBox(const std::string& text, MessageStyle style,
+                    const std::string& title = "Zelvo");
+  void SetPointer(MousePointer pointer);
+  MousePointer pointer() const { return pointer_; }
+  void Refresh(Window& window);
+  /// Stops the program: no further event is raised, and what still runs comes to its end unheard.
+  void End();
+  bool HasEnded() const { return ended_; }
+
+  // The player's input, as a face delivers it. What cannot take it drops it.
+
+  /// The window that takes input: the innermost modal one, else the board, else the start window.
+  /// Null while nothing is shown.
+  Window* InputWindow();
+  bool TakesInput(Window& window);
+  /// Why the control takes no click or mouse move now, in plain words; empty if it does.
+  std::string WhyNoInput(Control& control);
+  void Click(Control& control);
+  void Click(Window& window);
+  void Hover(Control& control);
+  void Hover(Window& window);
+  /// The close box.
+  void Close(Window& window);
+  /// The player has changed a window's size or put it to `extent`.
+  void Resize(Window& window, Extent extent);
+  /// A timer's interval is over.
+  void Tick(Control& timer);
+  /// True while a tick of the timer can still come. A wait loop that looks for ticks ends without
+  /// it, so that nothing waits for ever once the timer's window was closed under the loop.
+  bool WillTick(const Control& timer) const { return !ended_ && timer.Ticks(); }
+
+ protected:
+  /// How deep handlers may run on top of one another before input is refused. No player comes near
+  /// it; it keeps a script from exhausting the stack.
+  static constexpr int deepest = 60;
+
+  /// The game that the handlers work on.
+  virtual Game& Self() = 0;
+
+ private:
+  void Raise(WindowHandlers::Function handler);
+  void Raise(Handlers::Function handler, Control& control);
+  void Activate(Window* window);
+
+  Platform& platform_;
+  std::vector<Window*> modals_;  // outermost first; one that is hidden may still be ending
+  MousePointer pointer_ = MousePointer::Arrow;
+  int running_ = 0;       // handlers on the stack
+  int messageBoxes_ = 0;  // open ones
+  bool ended_ = false;
+};
+
+template <class W>
+void WindowSlot<W>::LoadNow() {
+  surface_.Load(window_);
+}
+
+}  // namespace zelvo

@@ -1,0 +1,41 @@
+#include "surface/window.h"
+
+#include "surface/surface.h"
+
+namespace zelvo {
+
+Window::Window(Surface& surface, const WindowDesign& design) : surface_(surface), design_(design) {}
+
+bool Window::HasCloseBox() const {
+  return design_.titleBar == TitleBar::Sizable || design_.titleBar == TitleBar::CloseOnly;
+}
+
+Control* Window::Find(std::string_view fullName) const {
+  for (Control* control : controls_) {
+    if (fullName.substr(0, control->name().size()) != control->name()) continue;
+    if (control->FullName() == fullName) return control;
+  }
+  return nullptr;
+}
+
+Platform& Window::platform() const { return surface_.platform(); }
+
+void Window::Place(Control& control, Kind kind, std::string_view name, Box box,
+                   const ControlDesign& design, const Control* container, int index) {
+  control.kind_ = kind;
+  control.name_ = name;
+  control.index_ = index;
+  control.box_ = box;
+  control.design_ = design;
+  control.container_ = container;
+  control.window_ = this;
+  controls_.push_back(&control);
+}
+
+void Window::Reset() {
+  Caption = design_.title;
+  extent = Extent::Normal;
+  for (Control* control : controls_) control->Reset();
+}
+
+}  // namespace zelvo

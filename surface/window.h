@@ -1,0 +1,108 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "surface/control.h"
+#include "surface/platform.h"
+
+namespace zelvo {
+
+class Surface;
+
+/// What a window's frame offers.
+enum class TitleBar : unsigned char { Sizable, Fixed, NoButtons, CloseOnly, NoBorder };
+enum class WindowState : unsigned char { NotLoaded, Hidden, Shown };
+/// How a shown window stands on the desktop.
+enum class Extent : unsigned char { Normal, Minimised, Maximised };
+
+struct WindowDesign {
+  std::string_view name;
+  std::string_view title;
+  int width = 0;   ///< of the client area, twips
+  int height = 0;  ///< of the client area, twips
+  TitleBar titleBar = TitleBar::NoButtons;
+  Color ground = 0xd7d9dc;
+};
+
+/// The functions that a window raises in its life, from the table of events; null where there is
+/// none.
+struct WindowHandlers {
+  using Function = void (*)(Game&);
+  Function load = nullptr;
+  Function activate = nullptr;
+  Function resize = nullptr;
+  Function queryUnload = nullptr;
+  Function unload = nullptr;
+  Function mouseMove = nullptr;
+  Function click = nullptr;
+};
+
+/// A window with its controls, as plain data. Each of the thirteen windows derives from it and has
+/// its controls as members.
+class Window {
+ public:
+  Window(Surface& surface, const WindowDesign& design);
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+
+  /// The title.
+  std::string Caption;
+  Extent extent = Extent::Normal;
+
+  const WindowDesign& design() const { return design_; }
+  std::string_view name() const { return design_.name; }
+  WindowState state() const { return state_; }
+  bool IsLoaded() const { return state_ != WindowState::NotLoaded; }
+  bool IsShown() const { return state_ == WindowState::Shown; }
+  bool HasCloseBox() const;
+  /// All controls, in the order in which they lie on the window, lowest first.
+  const std::vector<Control*>& controls() const { return controls_; }
+  /// The control of that full name, as in "Image1(37)"; null if there is none.
+  Control* Find(std::string_view fullName) const;
+  Platform& platform() const;
+
+  WindowHandlers handlers;
+
+ protected:
+  ~Window() = default;
+  /// Puts a control on the window. Its container, if any, is placed before it.
+  void Place(Control& control, Kind kind, std::string_view name, Box box,
+             const ControlDesign& design = {}, const Control* container = nullptr,
+             int index = Control::noIndex);
+
+ private:
+  friend class Surface;
+  void Reset();
+
+  Surface& surface_;
+  WindowDesign design_;
+  WindowState state_ = WindowState::NotLoaded;
+  bool unloading_ = false;
+  std::vector<Control*> controls_;
+};
+
+/// A window under the name that the rules use. Touching it through `->` loads it if it is not
+/// loaded.
+template <class W>
+class WindowSlot {
+ public:
+  explicit WindowSlot(Surface& surface) : surface_(surface), window_(surface) {}
+  W* operator->() {
+    if (!window_.IsLoaded()) LoadNow();
+    return &window_;
+  }
+  /// The window itself, loaded or not; loads nothing.
+  operator Window&() { return window_; }  // NOLINT(google-explicit-constructor): `g.Show(g.BK)`
+  W& Untouched() { return window_; }
+  const W& Untouched() const { return window_; }
+
+ private:
+  void LoadNow();
+
+  Surface& surface_;
+  W window_;
+};
+
+}  // namespace zelvo

@@ -1,0 +1,232 @@
+#include "surface/windows.h"
+
+#include "surface/looks.h"
+
+namespace zelvo {
+
+using namespace looks;
+
+GSTWindow::GSTWindow(Surface& surface)
+    : Window(surface, {"GST", "Zelvo 32", 9504, 6756, TitleBar::Sizable, night}) {
+  Place(Panel3D1, Kind::Panel, "Panel3D1", {200, 180, 9104, 6396}, {.look = panel});
+  Place(Image2, Kind::Image, "Image2", {346, 300, 8412, 3000}, {.picture = PictureId::GST_Image2},
+        &Panel3D1);
+  Place(Label1, Kind::Label, "Label1", {346, 3430, 8412, 520},
+        {.caption = "Buy a lot, build a hotel, own the block",
+         .look = {.ink = night, .letterHeight = 360, .bold = true, .align = Align::Center}},
+        &Panel3D1);
+  Place(Label2, Kind::Label, "Label2", {346, 3990, 8412, 380}, {.look = centred}, &Panel3D1);
+  Place(Panel3D2, Kind::Panel, "Panel3D2", {1552, 4560, 6000, 1400}, {.look = panel}, &Panel3D1);
+  constexpr Look large = {.letterHeight = 260, .bold = true, .align = Align::Center};
+  Place(CMDSTART, Kind::Button, "CMDSTART", {250, 300, 2300, 800},
+        {.caption = "Start Game", .look = large}, &Panel3D2);
+  Place(CMDSET, Kind::Button, "CMDSET", {2700, 300, 1450, 800}, {.caption = "Setup", .look = large},
+        &Panel3D2);
+  Place(CMDEXIT, Kind::Button, "CMDEXIT", {4300, 300, 1450, 800},
+        {.caption = "Exit", .look = large}, &Panel3D2);
+}
+
+ICFWindow::ICFWindow(Surface& surface)
+    : Window(surface, {"ICF", "Zelvo Setup options", 9348, 3360, TitleBar::NoBorder}) {
+  Place(Panel3D1, Kind::Panel, "Panel3D1", {60, 60, 4620, 3240}, {.look = panel});
+  Place(Panel3D2, Kind::Panel, "Panel3D2", {4740, 60, 4548, 3240}, {.look = panel});
+
+  struct Icon {
+    Control& control;
+    std::string_view name;
+    PictureId picture;
+    std::string_view tag;
+  };
+  const std::array<Icon, 22> icons = {{
+      {LUND, "LUND", PictureId::ICF_LUND, "U"},
+      {LOPEN, "LOPEN", PictureId::ICF_LOPEN, "O"},
+      {LDIRT, "LDIRT", PictureId::ICF_LDIRT, "D"},
+      {PLAYER, "PLAYER", PictureId::ICF_PLAYER, "PU"},
+      {COMP, "COMP", PictureId::ICF_COMP, "CU"},
+      {GOLF, "GOLF", PictureId::ICF_GOLF, "G"},
+      {PARK, "PARK", PictureId::ICF_PARK, "K"},
+      {CITY, "CITY", PictureId::ICF_CITY, ""},
+      {MALL, "MALL", PictureId::ICF_MALL, ""},
+      {CREST, "CREST", PictureId::ICF_CREST, ""},
+      {SUPER, "SUPER", PictureId::ICF_SUPER, "CS"},
+      {THRIFTY, "THRIFTY", PictureId::ICF_THRIFTY, "CT"},
+      {QUALITY, "QUALITY", PictureId::ICF_QUALITY, "CQ"},
+      {BEST, "BEST", PictureId::ICF_BEST, "CB"},
+      {RAMADA, "RAMADA", PictureId::ICF_RAMADA, "CR"},
+      {HILTON, "HILTON", PictureId::ICF_HILTON, "CH"},
+      {ELEC, "ELEC", PictureId::ICF_ELEC, ""},
+      {FIRE, "FIRE", PictureId::ICF_FIRE, ""},
+      {PLANE, "PLANE", PictureId::ICF_PLANE, ""},
+      {PAINT, "PAINT", PictureId::ICF_PAINT, ""},
+      {IRS, "IRS", PictureId::ICF_IRS, ""},
+      {MAN1, "MAN1", PictureId::ICF_MAN1, ""},
+  }};
+  // Three rows: eight, eight and six.
+  for (int i = 0; i < static_cast<int>(icons.size()); ++i) {
+    const Box box = {150 + 548 * (i % 8), 180 + 640 * (i / 8), 480, 480};
+    Place(icons[i].control, Kind::Image, icons[i].name, box,
+          {.tag = icons[i].tag, .picture = icons[i].picture, .look = {.border = Border::Line}},
+          &Panel3D1);
+  }
+  Place(Label1, Kind::Label, "Label1", {120, 2160, 4380, 920},
+        {.caption = "Move mouse over Icons",
+         .look = {.ink = white, .ground = night, .letterHeight = 230, .align = Align::Center}},
+        &Panel3D1);
+
+  constexpr std::array<std::string_view, 4> levels = {"Skill Level Easy", "Skill Level Normal",
+                                                      "Skill Level Hard", "Skill Level Genius"};
+  constexpr std::array<std::string_view, 4> tips = {"Easy to win", "Normal Chances",
+                                                    "Better be Smart", "Better be Smart"};
+  for (int i = 0; i < 4; ++i) {
+    Place(OPT1[i], Kind::Option, "OPT1", {150, 150 + 360 * i, 2150, 320},
+          {.caption = levels[i], .tag = tips[i], .value = i == 0, .look = text}, &Panel3D2, i);
+  }
+  Place(CKCHANCE, Kind::CheckBox, "CKCHANCE", {150, 1680, 2200, 320},
+        {.caption = "Use Chance cards", .value = true, .look = text}, &Panel3D2);
+  Place(CKBANK, Kind::CheckBox, "CKBANK", {150, 2040, 2200, 320},
+        {.caption = "Bank is Player also", .value = true, .look = text}, &Panel3D2);
+  Place(CMDSOUND, Kind::Button, "CMDSOUND", {2420, 150, 1980, 560},
+        {.caption = "Sound On", .look = button}, &Panel3D2);
+  Place(CMDEXP, Kind::Button, "CMDEXP", {2420, 770, 1980, 560},
+        {.caption = "Game Explaination", .look = button}, &Panel3D2);
+  Place(CMDABOUT, Kind::Button, "CMDABOUT", {2420, 1390, 1980, 560},
+        {.caption = "About Box", .look = button}, &Panel3D2);
+  Place(cmdexit, Kind::Button, "cmdexit", {2420, 2530, 1980, 560},
+        {.caption = "Exit Setup", .look = button}, &Panel3D2);
+}
+
+TTWindow::TTWindow(Surface& surface)
+    : Window(surface, {"TT", "", 4788, 2640, TitleBar::NoButtons, cream}) {
+  Place(Image1, Kind::Image, "Image1", {180, 240, 960, 960});
+  Place(Label1, Kind::Label, "Label1", {1260, 240, 3380, 420},
+        {.look = {.ink = computerRed, .letterHeight = 320, .bold = true}});
+  Place(Label2, Kind::Label, "Label2", {1260, 720, 3380, 900}, {.look = text});
+  Place(XSHOW, Kind::Panel, "XSHOW", {1794, 1800, 1200, 600},
+        {.look = {.ground = face,
+                  .letterHeight = 320,
+                  .bold = true,
+                  .align = Align::Center,
+                  .border = Border::Raised}});
+}
+
+WINXWindow::WINXWindow(Surface& surface)
+    : Window(surface, {"WINX", "The Winner is", 6600, 2376, TitleBar::NoButtons, night}) {
+  constexpr Look gold = {
+      .ink = 0xf2cf3a, .letterHeight = 420, .bold = true, .align = Align::Center};
+  constexpr Look plain = {.ink = white, .letterHeight = 330, .bold = true, .align = Align::Center};
+  Place(Label1, Kind::Label, "Label1", {180, 180, 4920, 600}, {.caption = "LABEL 1", .look = gold});
+  Place(Label2, Kind::Label, "Label2", {180, 860, 4920, 560},
+        {.caption = "LABEL 2", .look = plain});
+  Place(Label3, Kind::Label, "Label3", {180, 1500, 4920, 560},
+        {.caption = "LABEL 3", .look = plain});
+  Place(CMDEXIT, Kind::Button, "CMDEXIT", {5280, 660, 1080, 1080},
+        {.picture = PictureId::WINX_CMDEXIT});
+}
+
+HHWindow::HHWindow(Surface& surface)
+    : Window(surface, {"HH", "Zelvo Help", 7500, 6720, TitleBar::Fixed}) {
+  Place(Panel3D1, Kind::Panel, "Panel3D1", {90, 90, 7320, 5640}, {.look = panel});
+  Place(Text1, Kind::TextBox, "Text1", {90, 90, 7140, 5460},
+        {.look = {.ground = white, .letterHeight = 215, .border = Border::Sunken}}, &Panel3D1);
+  Place(CMDEXIT, Kind::Button, "CMDEXIT", {3270, 5820, 960, 800},
+        {.picture = PictureId::HH_CMDEXIT});
+}
+
+HSWindow::HSWindow(Surface& surface)
+    : Window(surface, {"HS", "Zelvo Statistics", 3288, 4536, TitleBar::NoButtons}) {
+  Place(Label1[0], Kind::Label, "Label1", {90, 90, 3108, 380},
+        {.caption = "Statistics", .look = Heading(playerBlue, Align::Center)}, nullptr, 0);
+  for (int line = 1; line <= 3; ++line) {
+    Place(Label1[line], Kind::Label, "Label1", {90, 180 + 350 * line, 3108, 330}, {.look = centred},
+          nullptr, line);
+  }
+  Place(Label1[5], Kind::Label, "Label1", {90, 1600, 3108, 360},
+        {.look = {.letterHeight = 230, .bold = true, .align = Align::Center}}, nullptr, 5);
+  Place(L1[4], Kind::Label, "L1", {90, 2040, 3108, 360},
+        {.caption = "Purchase Insurance ?", .look = Heading(bankTeal, Align::Center)}, nullptr, 4);
+  Place(Label1[4], Kind::Label, "Label1", {90, 2420, 3108, 330},
+        {.look = {.ink = computerRed, .letterHeight = 200, .bold = true, .align = Align::Center}},
+        nullptr, 4);
+  Place(CMDAN1[0], Kind::Button, "CMDAN1", {340, 2790, 2608, 480},
+        {.caption = "Purchase insurance", .look = button}, nullptr, 0);
+  Place(CMDAN1[1], Kind::Button, "CMDAN1", {340, 3340, 2608, 480},
+        {.caption = "No insurance", .look = button}, nullptr, 1);
+  Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {340, 3890, 2608, 480},
+        {.caption = "Cancel Build", .look = button});
+}
+
+SVWindow::SVWindow(Surface& surface)
+    : Window(surface, {"SV", "Property Repairs", 3396, 2844, TitleBar::NoButtons}) {
+  Place(Image1, Kind::Image, "Image1", {1374, 120, 648, 648}, {.picture = PictureId::SV_Image1});
+  Place(Label1, Kind::Label, "Label1", {120, 850, 3156, 1240}, {.look = message});
+  Place(CMDOK, Kind::Button, "CMDOK", {1098, 2220, 1200, 480}, {.caption = "OK", .look = button});
+}
+
+RBWindow::RBWindow(Surface& surface)
+    : Window(surface, {"RB", "Oh, Oh", 2928, 3516, TitleBar::CloseOnly}) {
+  Place(Label1, Kind::Label, "Label1", {90, 80, 2748, 340},
+        {.caption = "Zoning Board", .look = Heading(computerRed, Align::Center)});
+  Place(MAN, Kind::Image, "MAN", {834, 480, 1260, 1260}, {.picture = PictureId::RB_MAN});
+  Place(Label2, Kind::Label, "Label2", {90, 1800, 2748, 1626}, {.look = message});
+}
+
+MLWindow::MLWindow(Surface& surface)
+    : Window(surface, {"ML", "Mall", 3300, 3720, TitleBar::Fixed}) {
+  Place(Label1, Kind::Label, "Label1", {90, 80, 3120, 340},
+        {.caption = "Property zoned for a Mall", .look = Heading(bankTeal, Align::Center)});
+  Place(Image1, Kind::Image, "Image1", {1220, 500, 860, 860});
+  Place(Label2, Kind::Label, "Label2", {90, 1440, 3120, 1560}, {.look = message});
+  Place(CMD1[0], Kind::Button, "CMD1", {240, 3120, 1320, 480}, {.caption = "Yes", .look = button},
+        nullptr, 0);
+  Place(CMD1[1], Kind::Button, "CMD1", {1740, 3120, 1320, 480}, {.caption = "No", .look = button},
+        nullptr, 1);
+}
+
+CHNWindow::CHNWindow(Surface& surface)
+    : Window(surface, {"CHN", "Take a Chance", 7092, 3036, TitleBar::Fixed}) {
+  Place(Label1, Kind::Label, "Label1", {90, 80, 6912, 380},
+        {.caption = "Your turn has come to Click on a chance card",
+         .look = Heading(playerBlue, Align::Center)});
+  for (int card = 0; card < 3; ++card) {
+    Place(Image1[card], Kind::Image, "Image1", {150 + 1320 * card, 560, 1200, 1680},
+          {.picture = static_cast<PictureId>(static_cast<int>(PictureId::CHN_Image1_0) + card)},
+          nullptr, card);
+  }
+  Place(Label2, Kind::Label, "Label2", {4140, 560, 2820, 1680},
+        {.visible = false, .look = message});
+  Place(CMDOK, Kind::Button, "CMDOK", {4950, 2400, 1200, 480}, {.caption = "OK", .look = button});
+}
+
+BKWindow::BKWindow(Surface& surface)
+    : Window(surface, {"BK", "The Bank", 5328, 5040, TitleBar::NoButtons}) {
+  Place(ImageN, Kind::Image, "ImageN", {150, 560, 2295, 2295}, {.look = {.border = Border::Line}});
+  Place(Label1, Kind::Label, "Label1", {90, 80, 5148, 400},
+        {.caption = "I think we can arrange that", .look = Heading(bankTeal, Align::Center)});
+  Place(Label2, Kind::Label, "Label2", {150, 3000, 2295, 760}, {.look = centred});
+  for (int i = 0; i < 5; ++i) {
+    // They feed the picture that is shown and lie outside the client area themselves.
+    Place(Image1[i], Kind::Image, "Image1", {6000, 2400 * i, 2295, 2295},
+          {.picture = static_cast<PictureId>(static_cast<int>(PictureId::BK_Image1_0) + i)},
+          nullptr, i);
+  }
+  constexpr std::array<std::string_view, 5> amounts = {"Borrow $100,000", "Borrow $200,000",
+                                                       "Borrow $300,000", "Borrow $400,000",
+                                                       "Borrow $500,000"};
+  for (int i = 0; i < 5; ++i) {
+    Place(OPT1[i], Kind::Option, "OPT1", {2700, 620 + 440 * i, 2450, 380},
+          {.caption = amounts[i], .look = {.letterHeight = 220}}, nullptr, i);
+  }
+  Place(CMDOK, Kind::Button, "CMDOK", {700, 4080, 1800, 600},
+        {.caption = "Accept Loan", .look = button});
+  Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {2828, 4080, 1800, 600},
+        {.caption = "Cancel Loan", .look = button});
+  Place(Timer1, Kind::Timer, "Timer1", {}, {.enabled = false, .interval = 500});
+}
+
+ABTWindow::ABTWindow(Surface& surface)
+    : Window(surface, {"ABT", "About Box", 5400, 4200, TitleBar::CloseOnly, cream}) {
+  Place(Image1, Kind::Image, "Image1", {2140, 180, 1120, 1120}, {.picture = PictureId::ABT_Image1});
+  Place(Label1, Kind::Label, "Label1", {150, 1420, 5100, 2600}, {.look = centred});
+}
+
+}  // namespace zelvo

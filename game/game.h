@@ -1,0 +1,25 @@
+#pragma once
+
+#include "game/random.h"
+#include "game/variables.h"
+#include "surface/surface.h"
+
+namespace zelvo {
+
+/// The whole state of a running program: the shared variables, the windows and the generator. The
+/// rules are free functions over it; a program can hold any number of games.
+class Game : public Surface, public ProgramVariables, public GameVariables {
+ public:
+  /// Ties the controls and windows to their handlers; shows nothing yet.
+  explicit Game(Platform& platform);
+
+  /// The program's start: loads the start window, which shows itself and plays the opening.
+  void Start() { Load(GST); }
+
+  RandomGenerator Generator;
+
+ private:
+  Game& Self() override { return *this; }
+};
+
+}  // namespace zelvo

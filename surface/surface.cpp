@@ -94,21 +94,22 @@ Window* Surface::InputWindow() {
   return GST.Untouched().IsShown() ? &GST.Untouched() : nullptr;
 }
 
-bool Surface::TakesInput(Window& window) {
-  if (ended_ || messageBoxes_ > 0 || running_ >= deepest || !window.IsShown()) return false;
+std::string_view Surface::WhyNoInput(Window& window) {
+  if (ended_) return "the program has ended";
+  if (!window.IsShown()) return "the window is not shown";
+  if (messageBoxes_ > 0) return "a message box keeps the window from input";
+  if (running_ >= deepest) return "too many handlers are running";
   // The board and the start window are both live as long as no modal window is up.
   const Window* input = InputWindow();
-  return input == &window || input == &GFM.Untouched() || input == &GST.Untouched();
+  if (input == &window || input == &GFM.Untouched() || input == &GST.Untouched()) return "";
+  return "a modal window keeps the window from input";
 }
 
-std::string Surface::WhyNoInput(Control& control) {
-  Window& window = control.window();
-  if (!window.IsShown()) return "the window " + std::string(window.name()) + " is not shown";
-  if (messageBoxes_ > 0) return "a message box keeps the window from input";
-  if (!TakesInput(window)) return "another window keeps this one from input";
+std::string_view Surface::WhyNoInput(Control& control) {
+  const std::string_view why = WhyNoInput(control.window());
+  if (!why.empty()) return why;
   if (!control.VisibleInWindow()) return "the control is hidden";
-  if (!control.Enabled()) return "the control is disabled";
-  return "";
+  return control.Enabled() ? "" : "the control is disabled";
 }
 
 void Surface::Click(Control& control) {
@@ -120,7 +121,7 @@ void Surface::Click(Control& control) {
 }
 
 void Surface::Click(Window& window) {
-  if (TakesInput(window)) Raise(window.handlers.click);
+  if (WhyNoInput(window).empty()) Raise(window.handlers.click);
 }
 
 void Surface::Hover(Control& control) {
@@ -129,11 +130,11 @@ void Surface::Hover(Control& control) {
 }
 
 void Surface::Hover(Window& window) {
-  if (TakesInput(window)) Raise(window.handlers.mouseMove);
+  if (WhyNoInput(window).empty()) Raise(window.handlers.mouseMove);
 }
 
 void Surface::Close(Window& window) {
-  if (window.HasCloseBox() && TakesInput(window)) Unload(window);
+  if (window.HasCloseBox() && WhyNoInput(window).empty()) Unload(window);
 }
 
 void Surface::Resize(Window& window, Extent extent) {

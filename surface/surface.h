@@ -70,9 +70,9 @@ class Surface {
   /// The window that takes input: the innermost modal one, else the board, else the start window.
   /// Null while nothing is shown.
   Window* InputWindow();
-  bool TakesInput(Window& window);
-  /// Why the control takes no click or mouse move now, in plain words; empty if it does.
-  std::string WhyNoInput(Control& control);
+  /// Why the window or control takes no input now, in plain words; empty if it does.
+  std::string_view WhyNoInput(Window& window);
+  std::string_view WhyNoInput(Control& control);
   void Click(Control& control);
   void Click(Window& window);
   void Hover(Control& control);

@@ -1,0 +1,387 @@
+#include "headless/scripted_game.h"
+
+#include <array>
+#include <cstdio>
+#include <utility>
+
+#include "game/text.h"
+#include "headless/json_text.h"
+#include "headless/properties.h"
+#include "headless/variables.h"
+
+namespace zelvo {
+namespace {
+
+constexpr std::size_t longestLine = 65'536;
+
+std::string_view WithoutBlanks(std::string_view text) {
+  const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
+  while (!text.empty() && isBlank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && isBlank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+/// Cuts the first word off a text and leaves the rest without blanks around it.
+std::string_view TakeWord(std::string_view& text) {
+  const auto end = std::min(text.find_first_of(" \t"), text.size());
+  const std::string_view word = text.substr(0, end);
+  text = WithoutBlanks(text.substr(end));
+  return word;
+}
+
+std::string NoSuch(std::string_view what, std::string_view name) {
+  return "there is no " + std::string(what) + " " + std::string(name.substr(0, 80));
+}
+
+/// A property's path, as in "GFM.Image1(3).Tag" or "GFM.Caption".
+struct PropertyPath {
+  Window* window = nullptr;
+  Control* control = nullptr;  // null for a property of the window
+  std::string_view property;
+};
+
+std::string FindProperty(Game& game, std::string_view path, PropertyPath& found) {
+  const auto first = path.find('.');
+  if (first == std::string_view::npos) return NoSuch("variable", path);
+  found.window = game.FindWindow(path.substr(0, first));
+  if (found.window == nullptr) return NoSuch("window", path.substr(0, first));
+  const std::string_view rest = path.substr(first + 1);
+  const auto last = rest.rfind('.');
+  if (last == std::string_view::npos) {
+    found.property = rest;
+    if (rest != "Caption") return NoSuch("window property", rest);
+  } else {
+    found.control = found.window->Find(rest.substr(0, last));
+    if (found.control == nullptr) return NoSuch("control", path.substr(0, first + 1 + last));
+    found.property = rest.substr(last + 1);
+  }
+  return found.window->IsLoaded() ? "" : "the window is not loaded";
+}
+
+std::string_view NameOf(WindowState state) {
+  return state == WindowState::Shown ? "shown" : "hidden";
+}
+
+}  // namespace
+
+ScriptedGame::ScriptedGame(std::istream& commands, std::ostream& lines)
+    : commands_(commands), lines_(lines) {}
+
+void ScriptedGame::Run() {
+  game_.Start();
+  while (!game_.HasEnded()) WaitForPlayer();
+  lines_.flush();
+}
+
+// --- The platform
+
+void ScriptedGame::Yield() {
+  for (const Deed& deed : std::exchange(held_, {})) Do(deed);
+  while (Control* timer = time_.NextTick(0)) game_.Tick(*timer);
+}
+
+void ScriptedGame::YieldUntilEvent() {
+  if (!held_.empty()) {
+    Yield();
+  } else if (Control* timer = time_.NextTickWhenever()) {
+    game_.Tick(*timer);
+  }
+}
+
+void ScriptedGame::RunModal(Window& window) {
+  while (window.IsShown() && !game_.HasEnded()) WaitForPlayer();
+}
+
+Answer ScriptedGame::MessageBox(const std::string& text, MessageStyle style,
+                                const std::string& title) {
+  OpenMessage message{text, style, title, std::nullopt};
+  messages_.push_back(&message);
+  while (!message.answer && !game_.HasEnded()) WaitForPlayer();
+  messages_.pop_back();
+  return message.answer.value_or(Answer::No);
+}
+
+bool ScriptedGame::PlaySound(const std::string& path, bool waits) {
+  const std::string_view file = std::string_view(path).substr(path.rfind('\\') + 1);
+  cues_.append(cues_.empty() ? "" : ",").append("{\"file\":").append(Quoted(file));
+  cues_.append(waits ? ",\"waits\":true}" : ",\"waits\":false}");
+  return true;
+}
+
+void ScriptedGame::End() {
+  if (leaving_) return;
+  reply_.clear();
+  PrintLine("ended");
+}
+
+// --- The player
+
+void ScriptedGame::WaitForPlayer() {
+  PrintLine(Waiting());
+  std::string line;
+  std::string_view command;
+  do {
+    // A program at the other end waits for its line before it writes the next command.
+    if (commands_.rdbuf()->in_avail() <= 0) lines_.flush();
+    if (!ReadLine(line)) {
+      leaving_ = true;
+      game_.End();
+      return;
+    }
+    command = WithoutBlanks(line);
+  } while (command.empty() || command.front() == '#');
+  reply_.clear();
+  const std::string error = line.size() > longestLine ? "the line is too long" : Execute(command);
+  if (!error.empty()) reply_ = ",\"error\":" + Quoted(error);
+}
+
+/// Reads a line; of one that is too long just enough to tell. False at the end of the input.
+bool ScriptedGame::ReadLine(std::string& line) {
+  constexpr int endOfInput = std::char_traits<char>::eof();
+  line.clear();
+  std::streambuf& input = *commands_.rdbuf();
+  int c = input.sbumpc();
+  if (c == endOfInput) return false;
+  for (; c != endOfInput && c != '\n'; c = input.sbumpc()) {
+    if (line.size() <= longestLine) line += static_cast<char>(c);
+  }
+  return true;
+}
+
+std::string ScriptedGame::Waiting() {
+  if (!messages_.empty()) return "message box";
+  const Window* window = game_.InputWindow();
+  return window == nullptr ? "" : std::string(window->name());
+}
+
+void ScriptedGame::PrintLine(std::string_view waiting) {
+  const std::int64_t now = time_.MillisecondOfDay();
+  std::array<char, 32> clock{};
+  const int hour = static_cast<int>(now / 3'600'000);
+  const int minute = static_cast<int>(now / 60'000 % 60);
+  const int second = static_cast<int>(now / 1000 % 60);
+  const int millisecond = static_cast<int>(now % 1000);
+  std::snprintf(clock.data(), clock.size(), "%02d:%02d:%02d.%03d", hour, minute, second,
+                millisecond);
+  std::string line;
+  line.append("{\"waiting\":").append(Quoted(waiting));
+  line.append(",\"time\":\"").append(clock.data()).append("\"");
+  if (!cues_.empty()) line.append(",\"cues\":[").append(std::exchange(cues_, {})).append("]");
+  if (!messages_.empty() && waiting != "ended") {
+    const OpenMessage& message = *messages_.back();
+    line.append(",\"message\":{\"text\":").append(Quoted(message.text));
+    line.append(",\"title\":").append(Quoted(message.title));
+    line.append(",\"style\":").append(std::to_string(static_cast<int>(message.style)));
+    line += '}';
+  }
+  line.append(std::exchange(reply_, {})).append("}\n");
+  lines_ << line;
+}
+
+std::string ScriptedGame::Execute(std::string_view line) {
+  struct Command {
+    std::string_view verb;
+    std::string (ScriptedGame::*execute)(std::string_view rest);
+  };
+  static constexpr std::array<Command, 8> commands = {{
+      {"answer", &ScriptedGame::ExecuteAnswer},
+      {"wait", &ScriptedGame::ExecuteWait},
+      {"clock", &ScriptedGame::ExecuteClock},
+      {"later", &ScriptedGame::ExecuteLater},
+      {"set", &ScriptedGame::ExecuteSet},
+      {"get", &ScriptedGame::ExecuteGet},
+      {"state", &ScriptedGame::ExecuteState},
+      {"quit", &ScriptedGame::ExecuteQuit},
+  }};
+  const std::string_view verb = TakeWord(line);
+  for (const Command& command : commands) {
+    if (command.verb == verb) return (this->*command.execute)(line);
+  }
+  return ExecuteDeed(verb, line);
+}
+
+// --- Commands
+
+std::optional<ScriptedGame::Deed> ScriptedGame::ParseDeed(std::string_view verb,
+                                                          std::string_view rest,
+                                                          std::string& error) {
+  Deed deed{Deed::Kind::Click, nullptr, nullptr};
+  if (verb == "hover") {
+    deed.kind = Deed::Kind::Hover;
+  } else if (verb == "close") {
+    deed.kind = Deed::Kind::Close;
+  } else if (verb != "click") {
+    error = NoSuch("command", verb);
+    return std::nullopt;
+  }
+  const auto point = rest.find('.');
+  const std::string_view windowName = rest.substr(0, point);
+  deed.window = game_.FindWindow(windowName);
+  if (deed.window == nullptr) {
+    error = NoSuch("window", windowName);
+  } else if (point != std::string_view::npos) {
+    deed.control = deed.window->Find(rest.substr(point + 1));
+    if (deed.control == nullptr) error = NoSuch("control", rest);
+  }
+  if (!error.empty()) return std::nullopt;
+
+  const bool onControl = deed.control != nullptr;
+  if (deed.kind == Deed::Kind::Click && !onControl) error = "a click needs a control";
+  if (deed.kind == Deed::Kind::Close && onControl) error = "only a window can be closed";
+  if (deed.kind == Deed::Kind::Close && !onControl && !deed.window->HasCloseBox()) {
+    error = "the window has no close box";
+  }
+  if (onControl && deed.control->kind() == Kind::Timer) {
+    error = "a timer takes no click and no mouse move";
+  }
+  if (!error.empty()) return std::nullopt;
+  return deed;
+}
+
+std::string ScriptedGame::WhyNot(const Deed& deed) {
+  return std::string(deed.control != nullptr ? game_.WhyNoInput(*deed.control)
+                                             : game_.WhyNoInput(*deed.window));
+}
+
+void ScriptedGame::Do(const Deed& deed) {
+  switch (deed.kind) {
+    case Deed::Kind::Click:
+      game_.Click(*deed.control);
+      break;
+    case Deed::Kind::Hover:
+      if (deed.control != nullptr) {
+        game_.Hover(*deed.control);
+      } else {
+        game_.Hover(*deed.window);
+      }
+      break;
+    case Deed::Kind::Close:
+      game_.Close(*deed.window);
+      break;
+  }
+}
+
+std::string ScriptedGame::ExecuteDeed(std::string_view verb, std::string_view rest) {
+  std::string error;
+  const auto deed = ParseDeed(verb, rest, error);
+  if (!deed) return error;
+  error = WhyNot(*deed);
+  if (error.empty()) Do(*deed);
+  return error;
+}
+
+std::string ScriptedGame::ExecuteLater(std::string_view rest) {
+  const std::string_view verb = TakeWord(rest);
+  if (verb != "click" && verb != "hover" && verb != "close") {
+    return "only a click, a hover or a close can come later";
+  }
+  std::string error;
+  if (const auto deed = ParseDeed(verb, rest, error)) held_.push_back(*deed);
+  return error;
+}
+
+std::string ScriptedGame::ExecuteAnswer(std::string_view rest) {
+  if (messages_.empty()) return "there is no message box";
+  OpenMessage& message = *messages_.back();
+  const bool asks = message.style == MessageStyle::YesNoQuestion;
+  if (rest == "ok" && !asks) {
+    message.answer = Answer::Ok;
+  } else if (rest == "yes" && asks) {
+    message.answer = Answer::Yes;
+  } else if (rest == "no" && asks) {
+    message.answer = Answer::No;
+  } else {
+    return "the message box offers no such answer";
+  }
+  return "";
+}
+
+std::string ScriptedGame::ExecuteWait(std::string_view rest) {
+  long long left = 0;
+  std::string error = ReadWhole(rest, 0, VirtualTime::millisecondsPerDay, left);
+  if (!error.empty()) return error;
+  const std::int64_t end = time_.Elapsed() + left;
+  while (Control* timer = time_.NextTick(end - time_.Elapsed())) game_.Tick(*timer);
+  time_.Pass(end - time_.Elapsed());
+  return "";
+}
+
+std::string ScriptedGame::ExecuteClock(std::string_view rest) {
+  const auto twoDigits = [&](std::size_t at, int limit) {
+    const int tens = rest[at] - '0';
+    const int ones = rest[at + 1] - '0';
+    const bool digits = tens >= 0 && tens <= 9 && ones >= 0 && ones <= 9;
+    return digits && tens * 10 + ones < limit ? tens * 10 + ones : -1;
+  };
+  if (rest.size() != 8 || rest[2] != ':' || rest[5] != ':') return "the clock reads HH:MM:SS";
+  const TimeOfDay time{twoDigits(0, 24), twoDigits(3, 60), twoDigits(6, 60)};
+  if (time.hour < 0 || time.minute < 0 || time.second < 0) return "there is no such time of day";
+  time_.SetWallClock(time);
+  return "";
+}
+
+std::string ScriptedGame::ExecuteSet(std::string_view rest) {
+  const std::string_view name = TakeWord(rest);
+  if (const auto variable = FindVariable(name)) return WriteVariable(game_, *variable, rest);
+  PropertyPath path;
+  std::string error = FindProperty(game_, name, path);
+  if (!error.empty()) return error;
+  return path.control == nullptr ? ReadQuoted(rest, path.window->Caption)
+                                 : WriteProperty(*path.control, path.property, rest);
+}
+
+std::string ScriptedGame::ExecuteGet(std::string_view rest) {
+  std::string value;
+  if (const auto variable = FindVariable(rest)) {
+    value = ReadVariable(game_, *variable);
+  } else {
+    PropertyPath path;
+    std::string error = FindProperty(game_, rest, path);
+    if (!error.empty()) return error;
+    if (path.control == nullptr) {
+      value = Quoted(path.window->Caption);
+    } else {
+      const auto property = ReadProperty(*path.control, path.property);
+      if (!property) return "the control has no such property";
+      value = *property;
+    }
+  }
+  reply_ = ",\"value\":" + value;
+  return "";
+}
+
+std::string ScriptedGame::ExecuteState(std::string_view rest) {
+  if (!rest.empty()) return "state takes nothing more";
+  reply_ = ",\"state\":" + StateAsJson();
+  return "";
+}
+
+std::string ScriptedGame::ExecuteQuit(std::string_view rest) {
+  if (!rest.empty()) return "quit takes nothing more";
+  PrintLine(Waiting());
+  leaving_ = true;
+  game_.End();
+  return "";
+}
+
+std::string ScriptedGame::StateAsJson() {
+  std::string windows;
+  std::string controls;
+  for (const Window* window : game_.Windows()) {
+    if (!window->IsLoaded()) continue;
+    windows.append(windows.empty() ? "" : ",").append(Quoted(window->name()));
+    windows.append(":{\"state\":").append(Quoted(NameOf(window->state())));
+    windows.append(",\"Caption\":").append(Quoted(window->Caption)).append("}");
+    for (const Control* control : window->controls()) {
+      std::string name(window->name());
+      name.append(".").append(control->FullName());
+      controls.append(controls.empty() ? "" : ",").append(Quoted(name)).append(":");
+      controls += PropertiesAsJson(*control);
+    }
+  }
+  return "{\"variables\":" + VariablesAsJson(game_) + ",\"windows\":{" + windows +
+         "},\"controls\":{" + controls +
+         "},\"pointer\":" + std::to_string(static_cast<int>(game_.pointer())) + "}";
+}
+
+}  // namespace zelvo

@@ -38,7 +38,10 @@ class Currency {
   /// in a few amounts of a hundred.
   Currency Share(double rate) const;
 
-  constexpr auto operator<=>(const Currency&) const = default;
+  constexpr std::strong_ordering operator<=>(const Currency& other) const {
+    return counts_ <=> other.counts_;
+  }
+  constexpr bool operator==(const Currency&) const = default;
 
  private:
   std::int64_t counts_ = 0;

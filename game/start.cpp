@@ -84,6 +84,7 @@ void NewGame(Game& g) {
 }
 
 void OpeningSound(Game& g) {
+  if (g.HasEnded()) return;  // closed while it came up
   g.Word = "NO";
   // A missing file is no failure; only a machine without a sound player turns the sound off.
   g.SoundOn = g.platform().PlaySound(g.AppPath + CueFile(Cue::Opening), true);

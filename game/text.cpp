@@ -1,7 +1,7 @@
 #include "game/text.h"
 
+#include <algorithm>
 #include <cstdint>
-#include <limits>
 
 namespace zelvo {
 namespace {
@@ -11,6 +11,9 @@ std::uint64_t Magnitude(Currency amount) {
   const auto counts = static_cast<std::uint64_t>(amount.counts());
   return amount.counts() < 0 ? 0 - counts : counts;
 }
+
+/// Leaves a counter that is read from a text room to count.
+constexpr int largestCount = 1'000'000'000;
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
@@ -61,7 +64,7 @@ int NumberFrom(std::string_view text) {
   std::int64_t number = 0;
   for (; at < text.size() && IsDigit(text[at]); ++at) {
     number = number * 10 + (text[at] - '0');
-    if (number > std::numeric_limits<int>::max()) number = std::numeric_limits<int>::max();
+    number = std::min<std::int64_t>(number, largestCount);
   }
   return static_cast<int>(negative ? -number : number);
 }

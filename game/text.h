@@ -17,7 +17,7 @@ std::string MoneyText(Currency amount);
 /// The same without the forced digit, "$#,###,###": no dollars at all give a lone "$".
 std::string WinnerMoneyText(Currency amount);
 /// Reads the whole number at the head of a text, after leading blanks; 0 if there is none. A
-/// number too large for an int reads as the largest one.
+/// number beyond a thousand million reads as that.
 int NumberFrom(std::string_view text);
 /// The text without the blanks at both ends.
 std::string_view Trimmed(std::string_view text);

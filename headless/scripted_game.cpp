@@ -75,21 +75,10 @@ void ScriptedGame::Run() {
 
 // --- The platform
 
-void ScriptedGame::Yield() {
+bool ScriptedGame::DeliverHeldInput() {
+  if (held_.empty()) return false;
   for (const Deed& deed : std::exchange(held_, {})) Do(deed);
-  while (Control* timer = time_.NextTick(0)) game_.Tick(*timer);
-}
-
-void ScriptedGame::YieldUntilEvent() {
-  if (!held_.empty()) {
-    Yield();
-  } else if (Control* timer = time_.NextTickWhenever()) {
-    game_.Tick(*timer);
-  }
-}
-
-void ScriptedGame::RunModal(Window& window) {
-  while (window.IsShown() && !game_.HasEnded()) WaitForPlayer();
+  return true;
 }
 
 Answer ScriptedGame::MessageBox(const std::string& text, MessageStyle style,
@@ -155,7 +144,7 @@ std::string ScriptedGame::Waiting() {
 }
 
 void ScriptedGame::PrintLine(std::string_view waiting) {
-  const std::int64_t now = time_.MillisecondOfDay();
+  const std::int64_t now = time().MillisecondOfDay();
   std::array<char, 32> clock{};
   const int hour = static_cast<int>(now / 3'600'000);
   const int minute = static_cast<int>(now / 60'000 % 60);
@@ -300,9 +289,9 @@ std::string ScriptedGame::ExecuteWait(std::string_view rest) {
   long long left = 0;
   std::string error = ReadWhole(rest, 0, VirtualTime::millisecondsPerDay, left);
   if (!error.empty()) return error;
-  const std::int64_t end = time_.Elapsed() + left;
-  while (Control* timer = time_.NextTick(end - time_.Elapsed())) game_.Tick(*timer);
-  time_.Pass(end - time_.Elapsed());
+  const std::int64_t end = time().Elapsed() + left;
+  while (Control* timer = time().NextTick(end - time().Elapsed())) game_.Tick(*timer);
+  time().Pass(end - time().Elapsed());
   return "";
 }
 
@@ -314,9 +303,9 @@ std::string ScriptedGame::ExecuteClock(std::string_view rest) {
     return digits && tens * 10 + ones < limit ? tens * 10 + ones : -1;
   };
   if (rest.size() != 8 || rest[2] != ':' || rest[5] != ':') return "the clock reads HH:MM:SS";
-  const TimeOfDay time{twoDigits(0, 24), twoDigits(3, 60), twoDigits(6, 60)};
-  if (time.hour < 0 || time.minute < 0 || time.second < 0) return "there is no such time of day";
-  time_.SetWallClock(time);
+  const TimeOfDay clock{twoDigits(0, 24), twoDigits(3, 60), twoDigits(6, 60)};
+  if (clock.hour < 0 || clock.minute < 0 || clock.second < 0) return "there is no such time of day";
+  time().SetWallClock(clock);
   return "";
 }
 

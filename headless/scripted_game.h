@@ -8,14 +8,14 @@
 #include <vector>
 
 #include "game/game.h"
-#include "headless/virtual_time.h"
+#include "headless/virtual_platform.h"
 
 namespace zelvo {
 
 /// Plays the real game without a screen: the player is a stream of commands, one a line, and each
 /// time the game comes to wait for the player it prints a line of JSON. Time is virtual, so the
 /// same script gives the same lines everywhere.
-class ScriptedGame : public Platform {
+class ScriptedGame : public VirtualPlatform {
  public:
   ScriptedGame(std::istream& commands, std::ostream& lines);
 
@@ -24,17 +24,8 @@ class ScriptedGame : public Platform {
 
   Game& game() { return game_; }
 
-  void Yield() override;
-  void YieldUntilEvent() override;
-  void RunModal(Window& window) override;
   Answer MessageBox(const std::string& text, MessageStyle style, const std::string& title) override;
   bool PlaySound(const std::string& path, bool waits) override;
-  TimeOfDay WallClock() override { return time_.ReadWallClock(); }
-  std::string AppFolder() override { return "."; }
-  void SetPointer(MousePointer /*pointer*/) override {}
-  void SetFocus(Control& /*control*/) override {}
-  void Refresh(Window& /*window*/) override {}
-  void TimerChanged(Control& timer) override { time_.TimerChanged(timer); }
   void End() override;
 
  private:
@@ -52,7 +43,10 @@ class ScriptedGame : public Platform {
     Window* window;
   };
 
-  void WaitForPlayer();
+  void WaitForPlayer() override;
+  bool DeliverHeldInput() override;
+  Surface& surface() override { return game_; }
+
   bool ReadLine(std::string& line);
   void PrintLine(std::string_view waiting);
   std::string Waiting();
@@ -77,7 +71,6 @@ class ScriptedGame : public Platform {
 
   std::istream& commands_;
   std::ostream& lines_;
-  VirtualTime time_;
   std::vector<Deed> held_;              // for the next yield
   std::vector<OpenMessage*> messages_;  // innermost last
   std::string cues_;                    // JSON objects of the cues since the last line

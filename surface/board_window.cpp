@@ -68,7 +68,7 @@ void GFMWindow::PlaceBoard() {
   for (int lot = 0; lot < lotCount; ++lot) {
     Place(Image1[lot], Kind::Image, "Image1",
           {columnLeft[lot % boardWidth], rowTop[lot / boardWidth], lotSize, lotSize},
-          {.look = {.border = Border::Line}}, &Panel3D1, lot);
+          {.look = {.border = Border::Line}, .label = "Lot"}, &Panel3D1, lot);
   }
 }
 
@@ -99,11 +99,13 @@ void GFMWindow::PlaceLedgers() {
     Place(Label4[side], Kind::Label, "Label4", {90, top + 310, nameWidth, 245},
           {.caption = "Credit  $", .look = AmountName(colour)}, &Panel3D2, side);
     Place(credit, Kind::Label, player ? "PCredit" : "CCredit",
-          {amountLeft, top + 310, amountWidth, 245}, {.look = amount}, &Panel3D2);
+          {amountLeft, top + 310, amountWidth, 245},
+          {.look = amount, .label = player ? "Player's credit" : "Computer's credit"}, &Panel3D2);
     Place(Label5[side], Kind::Label, "Label5", {90, top + 565, nameWidth, 245},
           {.caption = "Net Worth $", .look = AmountName(colour)}, &Panel3D2, side);
     Place(worth, Kind::Label, player ? "PNW" : "CNW", {amountLeft, top + 565, amountWidth, 245},
-          {.look = amount}, &Panel3D2);
+          {.look = amount, .label = player ? "Player's net worth" : "Computer's net worth"},
+          &Panel3D2);
     // The player's line is the one numbered 1.
     const int line = 1 - side;
     Place(NHLabel[line], Kind::Label, "NHLabel", {90, top + 820, 2714, 245},
@@ -111,24 +113,26 @@ void GFMWindow::PlaceLedgers() {
            .look = AmountName(colour)},
           &Panel3D2, line);
     Place(owned, Kind::Label, player ? "PNOH" : "CNOH", {2804, top + 820, 700, 245},
-          {.look = amount}, &Panel3D2);
+          {.look = amount, .label = player ? "Player's properties" : "Computer's properties"},
+          &Panel3D2);
   };
   ledger(80, 0, playerBlue, Image2, Label2, PUP, PCredit, PNW, PNOH);
   ledger(1200, 1, computerRed, Image3, Label3, CUP, CCredit, CNW, CNOH);
 
   Place(LSHOW, Kind::Label, "LSHOW", {90, 2320, 3414, 290},
-        {.look = {.ink = white, .ground = night, .letterHeight = 190, .align = Align::Center}},
+        {.look = {.ink = white, .ground = night, .letterHeight = 190, .align = Align::Center},
+         .label = "News"},
         &Panel3D2);
   int left = 90;
   for (int light = 1; light <= 6; ++light) {
-    const int width = 344 + 90 * light;
+    const int width = 254 + 90 * light;
     Place(LITE[light], Kind::Label, "LITE", {left, 2625, width, 95},
           {.visible = false, .look = {.ground = lights[light - 1]}}, &Panel3D2, light);
-    left += width - 90;
+    left += width;
   }
   Place(Panel3D3, Kind::Panel, "Panel3D3", {90, 2740, 3414, 1400}, {.look = panel}, &Panel3D2);
   Place(PSHOW, Kind::Label, "PSHOW", {45, 45, 3324, 1310},
-        {.look = {.ground = cream, .letterHeight = 215}}, &Panel3D3);
+        {.look = {.ground = cream, .letterHeight = 190}, .label = "Message"}, &Panel3D3);
 }
 
 void GFMWindow::PlaceActions() {
@@ -162,8 +166,8 @@ void GFMWindow::PlaceActions() {
   action(CMDBUILD, "CMDBUILD", {1824, 5210, 1650, 410}, "Select Building");
   action(CMDSELL, "CMDSELL", {120, 5650, 1650, 410}, "Sell Property");
   action(CMDSHOT, "CMDSHOT", {1824, 5650, 1650, 410}, "Sell Building");
-  Place(CMDGO, Kind::Button, "CMDGO", {360, 6110, 2880, 530}, {.picture = PictureId::GFM_CMDGO},
-        &Panel3D2);
+  Place(CMDGO, Kind::Button, "CMDGO", {360, 6110, 2880, 530},
+        {.picture = PictureId::GFM_CMDGO, .label = "End of turn"}, &Panel3D2);
 }
 
 void GFMWindow::PlaceBottomStrip() {
@@ -178,11 +182,11 @@ void GFMWindow::PlaceBottomStrip() {
   Place(Label9, Kind::Label, "Label9", {2360, 450, 940, 340},
         {.caption = "Net Worth $", .look = AmountName(bankTeal)}, &Panel3D4);
   Place(BANKLABEL, Kind::Label, "BANKLABEL", {3300, 450, 1140, 340},
-        {.caption = "$", .look = amount}, &Panel3D4);
-  Place(CMDHELP, Kind::Button, "CMDHELP", {4500, 80, 600, 710}, {.picture = PictureId::GFM_CMDHELP},
-        &Panel3D4);
-  Place(CMDEXIT, Kind::Button, "CMDEXIT", {5140, 80, 600, 710}, {.picture = PictureId::GFM_CMDEXIT},
-        &Panel3D4);
+        {.caption = "$", .look = amount, .label = "Bank's net worth"}, &Panel3D4);
+  Place(CMDHELP, Kind::Button, "CMDHELP", {4500, 80, 600, 710},
+        {.picture = PictureId::GFM_CMDHELP, .label = "Setup"}, &Panel3D4);
+  Place(CMDEXIT, Kind::Button, "CMDEXIT", {5140, 80, 600, 710},
+        {.picture = PictureId::GFM_CMDEXIT, .label = "Exit"}, &Panel3D4);
 }
 
 }  // namespace zelvo

@@ -54,14 +54,16 @@ struct Handlers {
 
 /// What a control holds when its window is loaded.
 struct ControlDesign {
-  std::string_view caption = "";
-  std::string_view tag = "";
+  std::string_view caption = {};
+  std::string_view tag = {};
   bool visible = true;
   bool enabled = true;
   bool value = false;
   int interval = 0;  ///< milliseconds
   PictureId picture = PictureId::None;
   Look look = {};
+  /// What the control is, for those who do not see it; empty where its caption says it.
+  std::string_view label = {};
 };
 
 /// One control of a window, of any kind; a kind uses the properties that it has and leaves the

@@ -40,7 +40,7 @@ constexpr Look street = {.ink = roadLetters,
                          .ground = asphalt,
                          .letterHeight = 130,
                          .bold = true,
-                         .align = Align::Center,
+                         .align = Align::Left,
                          .border = Border::Road};
 constexpr Look avenue = {.ink = roadLetters,
                          .ground = asphalt,

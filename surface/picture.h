@@ -68,6 +68,10 @@ std::string_view PictureOwner(PictureId picture);
 /// The picture that a control owns; nothing if no picture has that owner.
 std::optional<PictureId> PictureOwnedBy(std::string_view owner);
 
+/// What the picture shows, in words for those who do not see it, as in "player's Hilton"; empty for
+/// None.
+std::string_view PictureMeaning(PictureId picture);
+
 /// The file of the artwork, as in "icf-lund.svg" or "bk-image1-3.svg"; empty for None.
 std::string PictureFile(PictureId picture);
 

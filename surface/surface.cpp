@@ -87,8 +87,8 @@ void Surface::End() {
 }
 
 Window* Surface::InputWindow() {
-  for (auto modal = modals_.rbegin(); modal != modals_.rend(); ++modal) {
-    if ((*modal)->IsShown()) return *modal;
+  for (std::size_t i = modals_.size(); i-- > 0;) {
+    if (modals_[i]->IsShown()) return modals_[i];
   }
   if (GFM.Untouched().IsShown()) return &GFM.Untouched();
   return GST.Untouched().IsShown() ? &GST.Untouched() : nullptr;
@@ -112,12 +112,13 @@ std::string_view Surface::WhyNoInput(Control& control) {
   return control.Enabled() ? "" : "the control is disabled";
 }
 
-void Surface::Click(Control& control) {
-  if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return;
-  if (control.handlers.dropsClicksWhileBusy && running_ > 0) return;
+bool Surface::Click(Control& control) {
+  if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return false;
+  if (control.handlers.dropsClicksWhileBusy && running_ > 0) return false;
   if (control.kind() == Kind::Option) control.SetValue(true);
   if (control.kind() == Kind::CheckBox) control.SetValue(!control.Value());
   Raise(control.handlers.click, control);
+  return true;
 }
 
 void Surface::Click(Window& window) {

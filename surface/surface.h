@@ -73,7 +73,8 @@ class Surface {
   /// Why the window or control takes no input now, in plain words; empty if it does.
   std::string_view WhyNoInput(Window& window);
   std::string_view WhyNoInput(Control& control);
-  void Click(Control& control);
+  /// False if the click was dropped.
+  bool Click(Control& control);
   void Click(Window& window);
   void Hover(Control& control);
   void Hover(Window& window);

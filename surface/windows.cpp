@@ -120,16 +120,18 @@ WINXWindow::WINXWindow(Surface& surface)
   Place(Label3, Kind::Label, "Label3", {180, 1500, 4920, 560},
         {.caption = "LABEL 3", .look = plain});
   Place(CMDEXIT, Kind::Button, "CMDEXIT", {5280, 660, 1080, 1080},
-        {.picture = PictureId::WINX_CMDEXIT});
+        {.picture = PictureId::WINX_CMDEXIT, .label = "Close"});
 }
 
 HHWindow::HHWindow(Surface& surface)
     : Window(surface, {"HH", "Zelvo Help", 7500, 6720, TitleBar::Fixed}) {
   Place(Panel3D1, Kind::Panel, "Panel3D1", {90, 90, 7320, 5640}, {.look = panel});
   Place(Text1, Kind::TextBox, "Text1", {90, 90, 7140, 5460},
-        {.look = {.ground = white, .letterHeight = 215, .border = Border::Sunken}}, &Panel3D1);
+        {.look = {.ground = white, .letterHeight = 215, .border = Border::Sunken},
+         .label = "Explanation of the game"},
+        &Panel3D1);
   Place(CMDEXIT, Kind::Button, "CMDEXIT", {3270, 5820, 960, 800},
-        {.picture = PictureId::HH_CMDEXIT});
+        {.picture = PictureId::HH_CMDEXIT, .label = "Close"});
 }
 
 HSWindow::HSWindow(Surface& surface)
@@ -189,7 +191,8 @@ CHNWindow::CHNWindow(Surface& surface)
          .look = Heading(playerBlue, Align::Center)});
   for (int card = 0; card < 3; ++card) {
     Place(Image1[card], Kind::Image, "Image1", {150 + 1320 * card, 560, 1200, 1680},
-          {.picture = static_cast<PictureId>(static_cast<int>(PictureId::CHN_Image1_0) + card)},
+          {.picture = static_cast<PictureId>(static_cast<int>(PictureId::CHN_Image1_0) + card),
+           .label = "Chance card"},
           nullptr, card);
   }
   Place(Label2, Kind::Label, "Label2", {4140, 560, 2820, 1680},

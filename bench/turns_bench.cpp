@@ -1,0 +1,102 @@
+#include <benchmark/benchmark.h>
+
+#include <sstream>
+#include <string>
+
+#include "events/board_event.h"
+#include "game/lots.h"
+#include "headless/auto_player.h"
+#include "headless/scripted_game.h"
+
+namespace zelvo {
+namespace {
+
+/// Starts a game afresh; a game that was won stands at the start window.
+void StartGame(Game& g) {
+  if (!g.GST.Untouched().IsLoaded()) g.Start();
+  g.Click(g.GST->CMDSTART);
+}
+
+void EndTurn(Game& g) {
+  if (!g.GFM.Untouched().IsShown()) StartGame(g);
+  g.Click(g.GFM->CMDGO);
+}
+
+void IdleTurns(benchmark::State& state) {
+  AutoPlayer player;
+  player.inModal = Dismiss;
+  StartGame(player.game());
+  for (auto _ : state) EndTurn(player.game());
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(IdleTurns);
+
+/// Buys the first lot for sale and builds on it, insured.
+void BuyAndBuild(Game& g) {
+  for (int lot = 0; lot < lotCount; ++lot) {
+    const auto tag = LotTag(g, lot);
+    if (tag != "O" && tag != "D") continue;
+    g.Click(g.GFM->Image1[lot]);
+    g.Click(g.GFM->CMDBUY);
+    g.Click(g.GFM->CMDBUILD);
+    g.Click(g.GFM->QUALITY);
+    g.Click(g.GFM->BUILDIT);
+    return;
+  }
+}
+
+void Insure(Game& g) {
+  if (g.HS.Untouched().IsShown() && g.HS->CMDAN1[0].Visible) {
+    g.Click(g.HS->CMDAN1[0]);
+  } else {
+    Dismiss(g);
+  }
+}
+
+void BuildingTurns(benchmark::State& state) {
+  AutoPlayer player;
+  player.inModal = Insure;
+  StartGame(player.game());
+  for (auto _ : state) {
+    BuyAndBuild(player.game());
+    EndTurn(player.game());
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BuildingTurns);
+
+/// Board events one after the other, on a board that is laid out anew whenever `fill` says what
+/// stands on its lots.
+void BoardEvents(benchmark::State& state, const char* tag, Control ICFWindow::*icon) {
+  AutoPlayer player;
+  player.inModal = Dismiss;
+  Game& g = player.game();
+  StartGame(g);
+  for (auto _ : state) {
+    for (int lot = 0; lot < lotCount; ++lot) SetLot(g, lot, g.ICF.operator->()->*icon, tag);
+    BoardEvent(g);
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK_CAPTURE(BoardEvents, EmptyBoard, "U", &ICFWindow::LUND);
+BENCHMARK_CAPTURE(BoardEvents, FullBoard, "CHH", &ICFWindow::HILTON);
+
+void ScriptLines(benchmark::State& state) {
+  constexpr int commands = 4000;
+  std::string script = "click GST.CMDSTART\n";
+  for (int i = 0; i < commands / 4; ++i) {
+    script += "click GFM.Image1(" + std::to_string(i % lotCount) +
+              ")\nget GFM.PSHOW.Caption\nhover GFM.CMDGO\nget LotValue(7)\n";
+  }
+  for (auto _ : state) {
+    std::istringstream input(script);
+    std::ostringstream output;
+    ScriptedGame(input, output).Run();
+    benchmark::DoNotOptimize(output.str().size());
+  }
+  state.SetItemsProcessed(state.iterations() * commands);
+}
+BENCHMARK(ScriptLines);
+
+}  // namespace
+}  // namespace zelvo

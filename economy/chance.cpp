@@ -134,7 +134,8 @@ void CHN::CMDOK_Click(Game& g) {
     g.GFM->PCredit.Caption = MoneyText(g.Money);
     if (g.Word == "BAD") {
       ReadMoney(g, g.GFM->CCredit.Caption);
-      g.GFM->CCredit.Caption = MoneyText(g.Money + g.CardAmount);
+      g.Money += g.CardAmount;
+      g.GFM->CCredit.Caption = MoneyText(g.Money);
       PayIntoBank(g, g.CardAmount.Share(0.22));
     }
   }

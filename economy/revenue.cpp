@@ -16,6 +16,17 @@ using Tags = std::array<std::string_view, 7>;
 constexpr Tags playerTags = {"PSH", "PTH", "PQH", "PBH", "PRH", "PHH", "PDH"};
 constexpr Tags computerTags = {"CSH", "CTH", "CQH", "CBH", "CRH", "CHH", "CDR"};
 
+/// A side's rate for one payment. The better rate is a floating number and no money value.
+struct Rate {
+  Currency plain;
+  bool better = false;
+
+  Currency Of(Currency value) const {
+    if (!better) return value * plain;
+    return value.Share(static_cast<double>(plain.counts()) / 10'000.0 * 1.5);
+  }
+};
+
 /// Which side, if any, earns at the better rate.
 struct BetterRate {
   bool player = false;
@@ -33,21 +44,14 @@ BetterRate FindBetterRate(Game& g) {
   return {.player = g.Delta > farBehind};
 }
 
-/// The income of a lot. The better rate is a floating number and no money value.
-Currency Income(const Game& g, int lot, bool better) {
-  if (!better) return g.LotValue[lot] * g.AssessRate;
-  const double rate = static_cast<double>(g.AssessRate.counts()) / 10'000.0 * 1.5;
-  return g.LotValue[lot].Share(rate);
-}
-
 /// Adds up the income of the buildings with these tags in `Tally`, and counts the restaurants.
-void SumIncome(Game& g, const Tags& tags, bool better) {
+void SumIncome(Game& g, const Tags& tags, const Rate& rate) {
   g.OwnerTags.fill("");
   for (std::size_t i = 0; i < tags.size(); ++i) g.OwnerTags[i + 1] = tags[i];
   for (const std::string_view earning : tags) {
     for (g.Idx = 0; g.Idx < lotCount; ++g.Idx) {
       if (LotTag(g, g.Idx) != earning) continue;
-      g.Money = Income(g, g.Idx, better);
+      g.Money = rate.Of(g.LotValue[g.Idx]);
       g.Tally += g.Money;
       if (earning == tags.back()) ++g.RestCount;
     }
@@ -72,13 +76,15 @@ void ClearSums(Game& g) {
 void PayRevenue(Game& g) {
   g.Yield();
   const BetterRate better = FindBetterRate(g);
+  const Rate playerRate{g.AssessRate, better.player};
+  const Rate computerRate{g.AssessRate, better.computer};
   ClearSums(g);
   g.RestCount = 0;
-  SumIncome(g, playerTags, better.player);
+  SumIncome(g, playerTags, playerRate);
   PayOut(g, g.GFM->PCredit);
   PayIntoBank(g, g.Tally.Share(g.BankPlays ? 0.18 : 0.12));  // on top; the player gets it all
   ClearSums(g);
-  SumIncome(g, computerTags, better.computer);
+  SumIncome(g, computerTags, computerRate);
   PayOut(g, g.GFM->CCredit);
 }
 

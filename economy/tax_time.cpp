@@ -90,7 +90,8 @@ Currency DividendOf(Game& g, std::string_view mallTag) {
 
 void Credit(Game& g, Control& cash, Currency amount) {
   ReadMoney(g, cash.Caption);
-  cash.Caption = MoneyText(g.Money + amount);
+  g.Money += amount;
+  cash.Caption = MoneyText(g.Money);
   g.Refresh(g.GFM);
 }
 

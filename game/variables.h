@@ -17,6 +17,8 @@ struct ProgramVariables {
   std::string CrLf;        ///< the line break of all messages
   bool SpreadDue = false;  ///< `SpreadValue` does nothing without it
   std::string Turn;        ///< "P" the player's, "C" the computer's
+  Currency LoanAmount;     ///< the amount chosen in the bank
+  Currency CardAmount;     ///< the amount of the chance card or suit in hand
 };
 
 /// The shared variables of one game, with their values at the start of a game.
@@ -67,8 +69,6 @@ struct GameVariables {
   Currency BuildCost;
   Currency WorkWorth;
   Currency Tally;
-  Currency LoanAmount;  ///< the amount chosen in the bank
-  Currency CardAmount;  ///< the amount of the chance card or suit in hand
 
   // Working variables with several uses. Some rules come from what one use leaves for another.
   std::string Word;

@@ -202,10 +202,10 @@ CHNWindow::CHNWindow(Surface& surface)
 
 BKWindow::BKWindow(Surface& surface)
     : Window(surface, {"BK", "The Bank", 5328, 5040, TitleBar::NoButtons}) {
-  Place(ImageN, Kind::Image, "ImageN", {150, 560, 2295, 2295}, {.look = {.border = Border::Line}});
-  Place(Label1, Kind::Label, "Label1", {90, 80, 5148, 400},
+  Place(ImageN, Kind::Image, "ImageN", {150, 640, 2295, 2295}, {.look = {.border = Border::Line}});
+  Place(Label1, Kind::Label, "Label1", {90, 80, 5148, 440},
         {.caption = "I think we can arrange that", .look = Heading(bankTeal, Align::Center)});
-  Place(Label2, Kind::Label, "Label2", {150, 3000, 2295, 760}, {.look = centred});
+  Place(Label2, Kind::Label, "Label2", {150, 3120, 5028, 560}, {.look = message});
   for (int i = 0; i < 5; ++i) {
     // They feed the picture that is shown and lie outside the client area themselves.
     Place(Image1[i], Kind::Image, "Image1", {6000, 2400 * i, 2295, 2295},
@@ -216,12 +216,12 @@ BKWindow::BKWindow(Surface& surface)
                                                        "Borrow $300,000", "Borrow $400,000",
                                                        "Borrow $500,000"};
   for (int i = 0; i < 5; ++i) {
-    Place(OPT1[i], Kind::Option, "OPT1", {2700, 620 + 440 * i, 2450, 380},
+    Place(OPT1[i], Kind::Option, "OPT1", {2700, 700 + 440 * i, 2450, 380},
           {.caption = amounts[i], .look = {.letterHeight = 220}}, nullptr, i);
   }
-  Place(CMDOK, Kind::Button, "CMDOK", {700, 4080, 1800, 600},
+  Place(CMDOK, Kind::Button, "CMDOK", {500, 4000, 2044, 680},
         {.caption = "Accept Loan", .look = button});
-  Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {2828, 4080, 1800, 600},
+  Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {2784, 4000, 2044, 680},
         {.caption = "Cancel Loan", .look = button});
   Place(Timer1, Kind::Timer, "Timer1", {}, {.enabled = false, .interval = 500});
 }

@@ -1,0 +1,287 @@
+#include "desktop/control_widget.h"
+
+#include <QAccessible>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <cmath>
+
+#include "desktop/window_view.h"
+
+namespace zelvo {
+namespace {
+
+/// A control that is hidden stays gone for this many milliseconds, even if it is shown again at
+/// once: the lot that the game points at twitches for no longer than a pass of a loop, too short
+/// for any screen.
+constexpr int goneForMilliseconds = 90;
+
+constexpr int markSize = 200;  // twips
+constexpr int markGap = 90;    // twips
+
+bool HasMark(const Control& control) {
+  return control.kind() == Kind::Option || control.kind() == Kind::CheckBox;
+}
+
+QString ToQString(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+ControlWidget::ControlWidget(Control& control, WindowView& view)
+    : QWidget(&view), control_(control), view_(view) {
+  setMouseTracking(true);
+  setAttribute(Qt::WA_NoMousePropagation);
+  if (IsClickable()) {
+    setAttribute(Qt::WA_Hover);
+    setFocusPolicy(Qt::StrongFocus);
+    if (control.kind() != Kind::Button) setCursor(Qt::PointingHandCursor);
+  }
+  if (control.kind() == Kind::TextBox) {
+    editor_ = new QPlainTextEdit(this);
+    editor_->setReadOnly(true);
+    editor_->setTabChangesFocus(true);
+    editor_->setFrameStyle(QFrame::NoFrame);
+    editor_->setAccessibleName(SpokenName());
+    QPalette colours = editor_->palette();
+    colours.setColor(QPalette::Base, ToColor(look().ground));
+    colours.setColor(QPalette::Text, ToColor(look().ink));
+    editor_->setPalette(colours);
+    setFocusProxy(editor_);
+  }
+}
+
+bool ControlWidget::IsClickable() const {
+  return control_.handlers.click != nullptr || HasMark(control_);
+}
+
+bool ControlWidget::TakesFocus() const {
+  const bool listens = IsClickable() || editor_ != nullptr;
+  return listens && control_.Enabled() && control_.VisibleInWindow();
+}
+
+bool ControlWidget::IsWalked() const {
+  const bool inArray = control_.index() != Control::noIndex;
+  return inArray && (control_.kind() == Kind::Image || control_.kind() == Kind::Option);
+}
+
+void ControlWidget::SetInHand(bool inHand) {
+  if (inHand_ == inHand) return;
+  inHand_ = inHand;
+  update();
+}
+
+// What the widget shows.
+
+bool ControlWidget::ShowsWhatIs() const {
+  return shown_.visible == control_.VisibleInWindow() && shown_.picture == control_.Picture &&
+         shown_.enabled == control_.Enabled() && shown_.value == control_.Value() &&
+         shown_.caption == control_.Caption && shown_.text == control_.Text;
+}
+
+void ControlWidget::TakeOver() {
+  if (shown_.caption != control_.Caption) text_.reset();
+  const bool newText = shown_.text != control_.Text;
+  shown_ = {control_.Caption,   control_.Text,    control_.Picture,
+            control_.Enabled(), control_.Value(), control_.VisibleInWindow()};
+  if (editor_ != nullptr && newText) editor_->setPlainText(ScreenText(control_.Text));
+  setEnabled(control_.Enabled());
+  update();
+  if (QAccessible::isActive()) {
+    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&changed);
+  }
+}
+
+void ControlWidget::Sync() {
+  if (ShowsWhatIs()) return;
+  const bool wasVisible = shown_.visible;
+  TakeOver();
+  if (shown_.visible != wasVisible) BecomeVisible(shown_.visible);
+}
+
+void ControlWidget::SyncOnOpening() {
+  TakeOver();
+  gone_.stop();
+  pressed_ = false;
+  setVisible(shown_.visible);
+}
+
+void ControlWidget::BecomeVisible(bool visible) {
+  if (!visible) {
+    gone_.start(goneForMilliseconds, this);
+  } else if (!gone_.isActive()) {
+    setVisible(true);
+  }
+}
+
+void ControlWidget::timerEvent(QTimerEvent* event) {
+  if (event->timerId() != gone_.timerId()) return;
+  gone_.stop();
+  setVisible(shown_.visible);
+  update();
+}
+
+void ControlWidget::Layout(const Mapping& mapping) {
+  unit_ = mapping.unit;
+  text_.reset();
+  setGeometry(mapping.Pixels(control_.Place()));
+  if (editor_ == nullptr) return;
+  const int border = static_cast<int>(std::ceil(40 * unit_));
+  editor_->setFont(ScreenFont(static_cast<int>(std::lround(look().letterHeight * unit_)), false));
+  editor_->document()->setDocumentMargin(120 * unit_);
+  editor_->setGeometry(rect().adjusted(border, border, -border, -border));
+}
+
+void ControlWidget::resizeEvent(QResizeEvent* /*event*/) { text_.reset(); }
+
+Standing ControlWidget::CurrentStanding() const {
+  return {isEnabled(), IsClickable() && underMouse(), pressed_ && underMouse()};
+}
+
+QRectF ControlWidget::MarkArea() const {
+  const double size = std::round(markSize * unit_);
+  return {std::round(20 * unit_), std::round((height() - size) / 2), size, size};
+}
+
+QRectF ControlWidget::TextArea() const {
+  QRectF area = rect();
+  if (HasMark(control_)) return area.adjusted(MarkArea().right() + markGap * unit_, 0, 0, 0);
+  // A name at the left of a street stands in its left half, clear of the avenue that crosses it.
+  const bool leftHalf = look().border == Border::Road && look().align == Align::Left;
+  if (leftHalf) area.setWidth(area.width() / 2);
+  const bool framed = look().ground != transparent || look().border != Border::None ||
+                      control_.kind() == Kind::Button;
+  const double side = framed ? 60 * unit_ : 0;
+  const double foot = framed && look().border != Border::Road ? 15 * unit_ : 0;
+  return look().vertical ? area.adjusted(foot, side, -foot, -side)
+                         : area.adjusted(side, foot, -side, -foot);
+}
+
+const FittedText& ControlWidget::Text() {
+  if (!text_) text_ = Fit(ScreenText(shown_.caption), look(), TextArea().size(), unit_);
+  return *text_;
+}
+
+void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
+  if (gone_.isActive()) return;
+  QPainter painter(this);
+  if (!isEnabled()) painter.setOpacity(0.45);
+  DrawBody(painter);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  if (inHand_) DrawInHand(painter, rect(), unit_);
+  if (hasFocus() && view_.desk().usesKeys) DrawFocus(painter, rect(), unit_);
+}
+
+void ControlWidget::DrawBody(QPainter& painter) {
+  const QRectF area = rect();
+  switch (control_.kind()) {
+    case Kind::Button: {
+      DrawButton(painter, area, CurrentStanding(), unit_);
+      const double inset = 70 * unit_;
+      DrawPicture(painter, area.adjusted(inset, inset, -inset, -inset));
+      DrawCaption(painter);
+      break;
+    }
+    case Kind::CheckBox:
+    case Kind::Option:
+      DrawMark(painter, MarkArea(), control_.kind() == Kind::Option, shown_.value,
+               CurrentStanding(), unit_);
+      DrawCaption(painter);
+      break;
+    case Kind::Image:
+      painter.drawPixmap(
+          area, view_.desk().pictures.Get(shown_.picture, size() * devicePixelRatioF()), {});
+      DrawGround(painter, area, look(), unit_);
+      DrawHover(painter, area, CurrentStanding(), unit_);
+      break;
+    default:
+      DrawGround(painter, area, look(), unit_);
+      if (look().border == Border::Road) DrawLanes(painter, area, look().vertical, unit_);
+      DrawCaption(painter);
+      DrawHover(painter, area, CurrentStanding(), unit_);
+      break;
+  }
+}
+
+void ControlWidget::DrawCaption(QPainter& painter) {
+  if (!shown_.caption.empty()) DrawText(painter, TextArea(), Text(), look());
+}
+
+void ControlWidget::DrawPicture(QPainter& painter, const QRectF& area) const {
+  const Pictures& pictures = view_.desk().pictures;
+  const double proportion = pictures.Proportion(shown_.picture);
+  if (proportion <= 0) return;
+  const double width = std::min(area.width(), area.height() * proportion);
+  QRectF place(0, 0, width, width / proportion);
+  place.moveCenter(area.center());
+  const QSize pixels = (place.size() * devicePixelRatioF()).toSize();
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  painter.drawPixmap(place, pictures.Get(shown_.picture, pixels), {});
+}
+
+// What the player does.
+
+void ControlWidget::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = true;
+  update();
+}
+
+void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !pressed_) return;
+  pressed_ = false;
+  update();
+  if (rect().contains(event->position().toPoint())) Press();
+}
+
+void ControlWidget::Press() { view_.Click(*this); }
+
+void ControlWidget::mouseMoveEvent(QMouseEvent* /*event*/) { view_.Hover(*this); }
+
+void ControlWidget::enterEvent(QEnterEvent* /*event*/) { view_.Hover(*this); }
+
+void ControlWidget::keyPressEvent(QKeyEvent* event) {
+  struct Arrow {
+    int key = 0;
+    QPoint direction;
+  };
+  static constexpr Arrow arrows[] = {{Qt::Key_Left, {-1, 0}},
+                                     {Qt::Key_Right, {1, 0}},
+                                     {Qt::Key_Up, {0, -1}},
+                                     {Qt::Key_Down, {0, 1}}};
+  for (const Arrow& arrow : arrows) {
+    if (event->key() == arrow.key) return view_.Walk(*this, arrow.direction);
+  }
+  const bool click = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
+                     event->key() == Qt::Key_Space;
+  if (!click) return QWidget::keyPressEvent(event);
+  if (!event->isAutoRepeat()) Press();
+}
+
+void ControlWidget::focusInEvent(QFocusEvent* event) {
+  QWidget::focusInEvent(event);
+  view_.FocusCame(*this, event->reason());
+}
+
+// What is said about it.
+
+QString ControlWidget::SpokenName() const {
+  const std::string_view label = control_.design().label;
+  if (label.empty()) {
+    const QString caption = ScreenText(control_.Caption).simplified();
+    return caption.isEmpty() ? ToQString(PictureMeaning(control_.Picture)) : caption;
+  }
+  QString name = ToQString(label);
+  if (control_.index() == Control::noIndex) return name;
+  return QStringLiteral("%1 %2").arg(name).arg(control_.index());
+}
+
+QString ControlWidget::SpokenDescription() const {
+  const QString caption = ScreenText(control_.Caption).simplified();
+  return caption.isEmpty() ? ToQString(PictureMeaning(control_.Picture)) : caption;
+}
+
+}  // namespace zelvo

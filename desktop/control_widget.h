@@ -1,0 +1,91 @@
+#pragma once
+
+#include <QBasicTimer>
+#include <QString>
+#include <QWidget>
+#include <optional>
+
+#include "desktop/drawing.h"
+
+class QPlainTextEdit;
+
+namespace zelvo {
+
+class WindowView;
+
+/// The picture of one control on the screen, of any kind but a timer: it shows what the control
+/// holds, in its look, and hands clicks and moves over it to the game.
+class ControlWidget : public QWidget {
+ public:
+  ControlWidget(Control& control, WindowView& view);
+
+  Control& control() const { return control_; }
+  /// Shows what the control holds now, if that is not what the widget shows already.
+  void Sync();
+  /// The same when the window comes up: what is hidden is hidden at once.
+  void SyncOnOpening();
+  /// Takes its place on the window.
+  void Layout(const Mapping& mapping);
+
+  /// True if a click can mean something, be the control enabled or not.
+  bool IsClickable() const;
+  /// True if the keyboard can go to the control now.
+  bool TakesFocus() const;
+  /// True if the keyboard goes to the control's array as to one thing, and arrow keys walk inside.
+  bool IsWalked() const;
+  void SetInHand(bool inHand);
+  /// The same as a click of the mouse.
+  void Press();
+
+  /// What a screen reader says.
+  QString SpokenName() const;
+  QString SpokenDescription() const;
+
+  /// The caption as it is drawn, and the room it has, for a look at whether it fits.
+  const FittedText& Text();
+  QRectF TextArea() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  /// The control's data as the widget last took it over.
+  struct Shown {
+    std::string caption;
+    std::string text;
+    PictureId picture = PictureId::None;
+    bool enabled = true;
+    bool value = false;
+    bool visible = false;
+  };
+
+  bool ShowsWhatIs() const;
+  void TakeOver();
+  void BecomeVisible(bool visible);
+  void DrawBody(QPainter& painter);
+  void DrawCaption(QPainter& painter);
+  void DrawPicture(QPainter& painter, const QRectF& area) const;
+  QRectF MarkArea() const;
+  Standing CurrentStanding() const;
+  const Look& look() const { return control_.design().look; }
+
+  Control& control_;
+  WindowView& view_;
+  Shown shown_;
+  double unit_ = 0;
+  bool pressed_ = false;
+  bool inHand_ = false;
+  QBasicTimer gone_;
+  std::optional<FittedText> text_;
+  QPlainTextEdit* editor_ = nullptr;  // of a text box, a child
+};
+
+}  // namespace zelvo

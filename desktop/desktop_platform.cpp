@@ -1,0 +1,224 @@
+#include "desktop/desktop_platform.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMessageBox>
+#include <QThread>
+#include <QTime>
+#include <QTimer>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/control_access.h"
+
+namespace zelvo {
+namespace {
+
+TimeOfDay LocalTime() {
+  // A rule may read the clock again and again until the second changes; it is not to burn the
+  // processor meanwhile.
+  QThread::msleep(1);
+  const QTime now = QTime::currentTime();
+  return {now.hour(), now.minute(), now.second()};
+}
+
+}  // namespace
+
+Machine ThisMachine(const QString& dataFolder) {
+  Machine machine;
+  machine.dataFolder = dataFolder;
+  machine.sound = MakeSoundPlayer();
+  machine.clock = LocalTime;
+  machine.leave = QCoreApplication::quit;
+  return machine;
+}
+
+DesktopPlatform::DesktopPlatform(Machine machine)
+    : Desk(machine.dataFolder + "/pictures"), machine_(std::move(machine)) {
+  DescribeControlsToHelpers();
+  qApp->installEventFilter(this);
+}
+
+DesktopPlatform::~DesktopPlatform() = default;
+
+WindowView* DesktopPlatform::ViewOf(const Window& window) const {
+  const auto found = views_.find(&window);
+  return found == views_.end() ? nullptr : found->second.get();
+}
+
+// Between the game's data and the screen.
+
+void DesktopPlatform::Sync() {
+  if (HasEnded()) return;
+  // Showing a window can raise an event that changes data again.
+  if (syncing_) {
+    syncAgain_ = true;
+    return;
+  }
+  syncing_ = true;
+  do {
+    syncAgain_ = false;
+    OpenAndCloseWindows();
+    for (WindowView* view : std::vector<WindowView*>(open_)) view->Sync();
+  } while (syncAgain_ && !HasEnded());
+  syncing_ = false;
+}
+
+void DesktopPlatform::OpenAndCloseWindows() {
+  const auto gone = std::stable_partition(
+      open_.begin(), open_.end(), [](WindowView* view) { return view->window().IsShown(); });
+  const std::vector<WindowView*> closing(gone, open_.end());
+  open_.erase(gone, open_.end());
+  for (WindowView* view : closing) view->hide();
+  for (Window* window : surface_->Windows()) {
+    if (!window->IsShown()) continue;
+    auto& view = views_[window];
+    if (!view) view = std::make_unique<WindowView>(*window, *this);
+    if (std::find(open_.begin(), open_.end(), view.get()) != open_.end()) continue;
+    view->Open(open_.empty() ? nullptr : open_.back());
+    open_.push_back(view.get());
+  }
+  if (!closing.empty() && !open_.empty()) open_.back()->activateWindow();
+}
+
+void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event) {
+  if (waitsForSound_ || HasEnded()) return;
+  event(*surface_);
+  Sync();
+}
+
+bool DesktopPlatform::eventFilter(QObject* /*object*/, QEvent* event) {
+  const bool key = event->type() == QEvent::KeyPress;
+  const bool mouse = event->type() == QEvent::MouseButtonPress;
+  if ((key || mouse) && usesKeys != key) {
+    usesKeys = key;
+    for (WindowView* view : open_) view->ShowFocus();
+  }
+  return false;
+}
+
+// Events.
+
+void DesktopPlatform::Yield() {
+  Sync();
+  QCoreApplication::processEvents();
+}
+
+void DesktopPlatform::YieldUntilEvent() {
+  Sync();
+  // The game is showing something: the player has nothing in hand on that window meanwhile.
+  if (!open_.empty()) open_.back()->ClearMark();
+  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void DesktopPlatform::RunModal(Window& window) {
+  while (window.IsShown() && !HasEnded()) {
+    Sync();
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
+}
+
+Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
+                                   const std::string& title) {
+  Sync();
+  const bool question = style == MessageStyle::YesNoQuestion;
+  QMessageBox box(open_.empty() ? nullptr : open_.back());
+  box.setWindowTitle(QString::fromStdString(title));
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ScreenText(text));
+  if (question) box.setIcon(QMessageBox::Question);
+  if (style == MessageStyle::OkExclamation) box.setIcon(QMessageBox::Warning);
+  box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
+  if (!open_.empty()) box.setFont(ScreenFont(static_cast<int>(13 * open_.back()->Scale()), false));
+  const int button = box.exec();
+  if (!question) return Answer::Ok;
+  return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
+}
+
+void DesktopPlatform::SetPointer(MousePointer pointer) {
+  const bool isSet = QGuiApplication::overrideCursor() != nullptr;
+  const bool hourglass = pointer == MousePointer::Hourglass;
+  if (hourglass && !isSet) QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+  if (!hourglass && isSet) QGuiApplication::restoreOverrideCursor();
+}
+
+void DesktopPlatform::SetFocus(Control& control) {
+  Sync();
+  if (WindowView* view = ViewOf(control.window())) view->FocusOn(control);
+}
+
+void DesktopPlatform::Refresh(Window& window) {
+  Sync();
+  if (WindowView* view = ViewOf(window)) view->repaint();
+}
+
+void DesktopPlatform::End() {
+  for (WindowView* view : std::exchange(open_, {})) view->hide();
+  for (const auto& [control, timer] : timers_) timer->stop();
+  QGuiApplication::restoreOverrideCursor();
+  machine_.leave();
+}
+
+// Timers.
+
+void DesktopPlatform::TimerChanged(Control& control) {
+  auto& timer = timers_[&control];
+  if (!timer) {
+    timer = std::make_unique<QTimer>();
+    timer->setTimerType(Qt::PreciseTimer);
+    connect(timer.get(), &QTimer::timeout, this, [this, &control] { Tick(control); });
+  }
+  if (control.Ticks()) {
+    timer->start(machine_.tickLength(control.Interval()));
+  } else {
+    timer->stop();
+  }
+}
+
+void DesktopPlatform::Tick(Control& control) {
+  if (waitsForSound_) {
+    heldTicks_.insert(&control);
+    return;
+  }
+  QTimer& timer = *timers_.at(&control);
+  const int length = machine_.tickLength(control.Interval());
+  if (timer.interval() != length) timer.setInterval(length);  // after a held tick
+  Deliver([&control](Surface& surface) { surface.Tick(control); });
+}
+
+// Sound.
+
+std::string DesktopPlatform::AppFolder() {
+  QString folder = machine_.dataFolder + "/sounds";
+  return folder.replace('/', '\\').toStdString();
+}
+
+bool DesktopPlatform::PlaySound(const std::string& path, bool waits) {
+  if (!machine_.sound->IsThere()) return false;
+  const std::string name = path.substr(path.rfind('\\') + 1);
+  const auto wave = ReadWaveFile(machine_.dataFolder + "/sounds/" + QString::fromStdString(name));
+  if (!wave) return true;
+  machine_.sound->Start(*wave);
+  if (waits) WaitForSound(wave->Length());
+  return true;
+}
+
+/// The game stands still until the sound is over, but its windows are painted. A sound that never
+/// says that it has ended is waited for no longer than its file is long.
+void DesktopPlatform::WaitForSound(std::chrono::milliseconds length) {
+  Sync();
+  waitsForSound_ = true;
+  QTimer end;
+  end.setSingleShot(true);
+  end.setTimerType(Qt::PreciseTimer);
+  end.start(length);
+  while (end.isActive() && machine_.sound->IsPlaying() && !HasEnded()) {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
+                                    QEventLoop::WaitForMoreEvents);
+  }
+  waitsForSound_ = false;
+  for (const Control* control : std::exchange(heldTicks_, {})) timers_.at(control)->start(0);
+}
+
+}  // namespace zelvo

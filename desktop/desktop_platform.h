@@ -1,0 +1,83 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <array>
+#include <functional>
+#include <map>
+#include <memory>
+#include <set>
+#include <vector>
+
+#include "desktop/desk.h"
+#include "desktop/sound_player.h"
+#include "desktop/window_view.h"
+#include "surface/surface.h"
+
+class QTimer;
+
+namespace zelvo {
+
+/// What of the machine a test puts its own in for.
+struct Machine {
+  QString dataFolder;  ///< with the folders pictures and sounds
+  std::unique_ptr<SoundPlayer> sound;
+  std::function<TimeOfDay()> clock;
+  /// The milliseconds that a timer of so many really takes.
+  std::function<int(int)> tickLength = [](int interval) { return interval; };
+  /// Leaves the program once the game has ended.
+  std::function<void()> leave;
+};
+
+/// The machine that the program runs on.
+Machine ThisMachine(const QString& dataFolder);
+
+/// The game's door to the desktop: events, windows, sound and clock of Qt.
+class DesktopPlatform final : public QObject, public Platform, public Desk {
+ public:
+  explicit DesktopPlatform(Machine machine);
+  ~DesktopPlatform() override;
+
+  /// Ties the platform to the game that runs on it, ahead of the game's start.
+  void Attach(Surface& surface) { surface_ = &surface; }
+  /// The window's picture on the screen; null while it has never been shown.
+  WindowView* ViewOf(const Window& window) const;
+  /// Opens and closes windows and shows in them what the game's data holds.
+  void Sync();
+
+  void Yield() override;
+  void YieldUntilEvent() override;
+  void RunModal(Window& window) override;
+  Answer MessageBox(const std::string& text, MessageStyle style, const std::string& title) override;
+  bool PlaySound(const std::string& path, bool waits) override;
+  TimeOfDay WallClock() override { return machine_.clock(); }
+  std::string AppFolder() override;
+  void SetPointer(MousePointer pointer) override;
+  void SetFocus(Control& control) override;
+  void Refresh(Window& window) override;
+  void TimerChanged(Control& timer) override;
+  void End() override;
+
+  void Deliver(const std::function<void(Surface&)>& event) override;
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  bool HasEnded() const { return surface_ == nullptr || surface_->HasEnded(); }
+  void OpenAndCloseWindows();
+  void Tick(Control& timer);
+  void WaitForSound(std::chrono::milliseconds length);
+
+  Machine machine_;
+  Surface* surface_ = nullptr;
+  std::map<const Window*, std::unique_ptr<WindowView>> views_;
+  std::vector<WindowView*> open_;  // the latest last
+  std::map<const Control*, std::unique_ptr<QTimer>> timers_;
+  std::set<const Control*> heldTicks_;  // of timers whose time came while a sound was waited for
+  bool waitsForSound_ = false;
+  bool syncing_ = false;
+  bool syncAgain_ = false;
+};
+
+}  // namespace zelvo

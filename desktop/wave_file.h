@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <chrono>
+#include <optional>
+
+namespace zelvo {
+
+/// A sound as a wave file holds it: uncompressed samples.
+struct WaveFile {
+  int channels = 0;
+  int samplesPerSecond = 0;
+  int bitsPerSample = 0;  ///< 8 or 16
+  QByteArray samples;
+
+  std::chrono::milliseconds Length() const;
+};
+
+/// Reads a wave file; nothing if it is missing, broken, compressed or silent for lack of samples.
+std::optional<WaveFile> ReadWaveFile(const QString& path);
+
+}  // namespace zelvo

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QPoint>
+#include <QWidget>
+#include <map>
+#include <string_view>
+#include <vector>
+
+#include "desktop/control_widget.h"
+#include "desktop/desk.h"
+#include "surface/window.h"
+
+namespace zelvo {
+
+/// Any window of the game on the screen. It walks the window's controls and makes a widget for
+/// each; the contents scale with the window and keep their proportions.
+class WindowView : public QWidget {
+ public:
+  WindowView(Window& window, Desk& desk);
+
+  Window& window() const { return window_; }
+  Desk& desk() const { return desk_; }
+  /// Those that the client area shows, in the order of the window's controls.
+  const std::vector<ControlWidget*>& widgets() const { return widgets_; }
+  ControlWidget* Find(const Control& control) const;
+
+  /// Puts the window on the screen: a dialog centred over its opener and at its scale, another one
+  /// in its place. Without an opener at a size that suits the screen.
+  void Open(const WindowView* opener);
+  /// Carries over what the window's data holds.
+  void Sync();
+  /// 1 is the design size at 96 dpi.
+  double Scale() const;
+  void SetScale(double scale);
+  /// True if the window stands above the others until it is left.
+  bool IsDialog() const { return window_.design().titleBar != TitleBar::Sizable; }
+
+  // What the widgets report.
+
+  void Click(ControlWidget& widget);
+  void Hover(ControlWidget& widget);
+  /// Moves the focus to the nearest of the same array in a direction, as from lot to lot.
+  void Walk(ControlWidget& from, QPoint direction);
+  void FocusCame(ControlWidget& widget, Qt::FocusReason reason);
+  /// Takes the mark off what the player clicked last.
+  void ClearMark();
+  void FocusOn(const Control& control);
+  /// The player has turned from the mouse to the keyboard or back.
+  void ShowFocus();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
+
+ private:
+  QSize DesignPixels(double scale) const;
+  void TakePlaceOf(const WindowView& opener);
+  void PlaceOnScreen();
+  void CentreOver(const WindowView& opener);
+  void LayOut();
+  void ApplyExtent();
+  void Mark(ControlWidget& widget);
+  ControlWidget* FocusedWidget() const;
+  ControlWidget* EntryOf(const ControlWidget& member) const;
+  std::vector<ControlWidget*> TabStops() const;
+
+  Window& window_;
+  Desk& desk_;
+  std::vector<ControlWidget*> widgets_;
+  std::map<std::string_view, ControlWidget*> lastFocused_;  // by the name of a walked array
+  Extent extent_ = Extent::Normal;                          // as the widget shows it
+  bool opening_ = false;
+};
+
+}  // namespace zelvo

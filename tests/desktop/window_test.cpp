@@ -1,0 +1,183 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QScreen>
+
+#include "tools/gallery/desktop_game.h"
+
+namespace zelvo {
+namespace {
+
+class OnScreen : public testing::Test, public DesktopGame {};
+
+TEST_F(OnScreen, NoTextIsClippedAtAnyScale) {
+  StartGame();
+  for (Window* window : game.Windows()) {
+    Exhibit(*window);
+    for (const int scale : {1, 2, 3, 4}) {
+      View(*window).SetScale(scale);
+      ASSERT_NEAR(View(*window).Scale(), scale, 0.01);
+      for (ControlWidget* widget : View(*window).widgets()) {
+        if (widget->control().Caption.empty()) continue;
+        const FittedText& text = widget->Text();
+        QSizeF area = widget->TextArea().size();
+        const Look& look = widget->control().design().look;
+        if (look.vertical) area.transpose();
+        EXPECT_TRUE(QRectF(QPointF(), area).contains(text.bounds))
+            << window->name() << '.' << widget->control().FullName() << " at " << scale;
+        // Smaller letters than these make it fit, but not read.
+        EXPECT_GE(text.font.pixelSize(), 0.55 * look.letterHeight * scale / 15)
+            << window->name() << '.' << widget->control().FullName() << " at " << scale;
+      }
+    }
+  }
+}
+
+TEST_F(OnScreen, ContentsKeepTheirProportions) {
+  StartGame();
+  WindowView& board = View(game.GFM);
+  for (const QSize size : {QSize(1400, 700), QSize(700, 1200), QSize(1268, 901)}) {
+    board.resize(size);
+    const QRect column = Widget(game.GFM->Panel3D2).geometry();
+    const double unit = board.Scale() / 15;
+    EXPECT_NEAR(column.width(), 3594 * unit, 1);
+    EXPECT_NEAR(column.height(), 6696 * unit, 1);
+    EXPECT_TRUE(board.rect().contains(column));
+    const QRect rows = Widget(game.GFM->Panel3D1).geometry();
+    EXPECT_NEAR(rows.left() - 50 * unit, board.width() - 1 - column.right() - 30 * unit, 2);
+    // Lots that touch share an edge, whatever the scale.
+    const QRect lot = Widget(game.GFM->Image1[1]).geometry();
+    EXPECT_EQ(Widget(game.GFM->Image1[2]).geometry().left(), lot.right() + 1);
+  }
+}
+
+TEST_F(OnScreen, WindowsComeUpWhereTheyBelong) {
+  WindowView& start = View(game.GST);
+  const QSize screen = start.screen()->availableSize();
+  EXPECT_GT(start.width(), screen.width() * 0.75);
+  EXPECT_LT(start.height(), screen.height());
+  start.setGeometry(20, 30, 700, 560);
+  StartGame();
+  EXPECT_EQ(View(game.GFM).geometry(), start.geometry());
+  for (Window* window : game.Windows()) {
+    if (window->name() == "GST" || window->name() == "GFM") continue;
+    Exhibit(*window);
+    WindowView& dialog = View(*window);
+    EXPECT_TRUE(dialog.isModal());
+    EXPECT_NEAR(dialog.Scale(), View(game.GFM).Scale(), 0.02) << window->name();
+    const QPoint off = dialog.geometry().center() - start.geometry().center();
+    EXPECT_LE(off.manhattanLength(), 2) << window->name();
+    game.Hide(*window);
+    platform.Sync();
+    EXPECT_FALSE(dialog.isVisible());
+  }
+}
+
+TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
+  StartGame();
+  const std::pair<Qt::WindowState, Extent> states[] = {
+      {Qt::WindowMinimized, Extent::Minimised},
+      {Qt::WindowMaximized, Extent::Maximised},
+      {Qt::WindowNoState, Extent::Normal},
+  };
+  for (const auto& [state, extent] : states) {
+    View(game.GFM).setWindowState(state);
+    EXPECT_EQ(game.GFM->extent, extent);
+    EXPECT_EQ(View(game.GST).windowState() & ~Qt::WindowActive, state);
+  }
+  View(game.GFM).resize(900, 800);
+  EXPECT_EQ(View(game.GFM).windowTitle(), "Board Game");
+}
+
+TEST_F(OnScreen, WidgetsShowWhatTheDataHolds) {
+  StartGame();
+  game.GFM->PSHOW.Caption = "One\n\rTwo";
+  game.GFM->CMDBUY.Visible = true;
+  game.GFM->CMDGO.SetEnabled(false);
+  game.GFM->Caption = "News";
+  platform.Sync();
+  EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, "One\nTwo");
+  EXPECT_TRUE(Widget(game.GFM->CMDBUY).isVisible());
+  EXPECT_FALSE(Widget(game.GFM->CMDGO).isEnabled());
+  EXPECT_EQ(View(game.GFM).windowTitle(), "News");
+
+  // What was hidden while the window was away is not there when it comes back.
+  game.Hide(game.GFM);
+  platform.Sync();
+  game.GFM->CMDBUY.Visible = false;
+  game.Show(game.GFM);
+  platform.Sync();
+  EXPECT_FALSE(Widget(game.GFM->CMDBUY).isVisible());
+
+  Exhibit(game.HH);
+  const auto* text = Widget(game.HH->Text1).findChild<QPlainTextEdit*>();
+  EXPECT_TRUE(text->toPlainText().startsWith("The game\n\n The object"));
+  EXPECT_TRUE(text->isReadOnly());
+}
+
+TEST_F(OnScreen, ADifferentPictureLooksDifferent) {
+  StartGame();
+  Control& lot = game.GFM->Image1[50];
+  lot.Picture = PictureId::ICF_PARK;
+  platform.Sync();
+  const QImage park = Widget(lot).grab().toImage();
+  lot.Picture = PictureId::ICF_HILTON;
+  platform.Sync();
+  EXPECT_NE(Widget(lot).grab().toImage(), park);
+}
+
+TEST_F(OnScreen, EveryPictureIsDrawnSharp) {
+  for (int id = 1; id < static_cast<int>(PictureId::Count); ++id) {
+    const auto picture = static_cast<PictureId>(id);
+    const QPixmap pixmap = platform.pictures.Get(picture, {96, 96});
+    EXPECT_EQ(pixmap.size(), QSize(96, 96)) << PictureOwner(picture);
+    EXPECT_GT(platform.pictures.Proportion(picture), 0) << PictureOwner(picture);
+  }
+  EXPECT_TRUE(platform.pictures.Get("no-such.svg", {96, 96}).isNull());
+}
+
+TEST_F(OnScreen, HelpersHearWhatAControlIs) {
+  StartGame();
+  game.GFM->Image1[37].Picture = PictureId::ICF_HILTON;
+  const struct {
+    Control& control;
+    const char* name;
+    const char* description;
+  } spoken[] = {
+      {game.GFM->Image1[37], "Lot 37", "computer's Hilton"},
+      {game.GFM->Image1[0], "Lot 0", "player's bare lot"},
+      {game.GFM->PCredit, "Player's credit", "$1,000,000"},
+      {game.GFM->CMDGO, "End of turn", "arrow and green light"},
+      {game.GFM->RAMADA, "player's Ramada", "player's Ramada"},
+      {game.GST->CMDSTART, "Start Game", "Start Game"},
+  };
+  for (const auto& one : spoken) {
+    QAccessibleInterface* access = QAccessible::queryAccessibleInterface(&Widget(one.control));
+    EXPECT_EQ(access->text(QAccessible::Name), one.name);
+    EXPECT_EQ(access->text(QAccessible::Description), one.description);
+  }
+  for (Window* window : game.Windows()) {
+    Exhibit(*window);
+    for (ControlWidget* widget : View(*window).widgets()) {
+      if (!widget->TakesFocus()) continue;
+      QAccessibleInterface* access = QAccessible::queryAccessibleInterface(widget);
+      EXPECT_FALSE(access->text(QAccessible::Name).isEmpty())
+          << window->name() << '.' << widget->control().FullName();
+    }
+  }
+  QAccessibleInterface* bank = QAccessible::queryAccessibleInterface(&Widget(game.ICF->CKBANK));
+  EXPECT_EQ(bank->role(), QAccessible::CheckBox);
+  EXPECT_TRUE(bank->state().checked);
+  QAccessibleInterface* start = QAccessible::queryAccessibleInterface(&Widget(game.GFM->Image1[5]));
+  ASSERT_TRUE(start->actionInterface() != nullptr);
+  for (Window* window : game.Windows()) {
+    if (window->name() != "GFM" && window->name() != "GST") game.Hide(*window);
+  }
+  start->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_EQ(game.CurLot, 5);
+}
+
+}  // namespace
+}  // namespace zelvo

@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <span>
 #include <string_view>
 
@@ -14,7 +15,21 @@
 
 namespace {
 
-/// True if Qt will find a screen to draw on; it aborts if it finds none.
+void SayThatThereIsNoDisplay() {
+  std::fputs("zelvo: there is no display to open a window on; zelvo-headless plays without one\n",
+             stderr);
+}
+
+/// Until the first window is up, the toolkit's own way of saying that a display does not answer is
+/// to abort.
+void LeaveInsteadOfAborting(QtMsgType type, const QMessageLogContext& /*context*/,
+                            const QString& /*message*/) {
+  if (type != QtFatalMsg) return;
+  SayThatThereIsNoDisplay();
+  std::_Exit(1);
+}
+
+/// True if the environment names a screen to draw on.
 bool HasDisplay(std::span<char*> arguments) {
   static constexpr const char* variables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
   const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
@@ -56,11 +71,12 @@ int main(int argc, char** argv) {
   if (!HasDisplay({argv, static_cast<std::size_t>(argc)})) {
     const QCoreApplication app(argc, argv);
     ReadOptions(app);
-    std::fputs("zelvo: there is no display to open a window on; zelvo-headless plays without one\n",
-               stderr);
+    SayThatThereIsNoDisplay();
     return 1;
   }
+  const QtMessageHandler usual = qInstallMessageHandler(LeaveInsteadOfAborting);
   const QApplication app(argc, argv);
+  qInstallMessageHandler(usual);
   ReadOptions(app);
   QGuiApplication::setDesktopFileName("zelvo");
   QGuiApplication::setQuitOnLastWindowClosed(false);

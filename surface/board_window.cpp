@@ -179,9 +179,10 @@ void GFMWindow::PlaceBottomStrip() {
         {.caption = "Level", .look = {.letterHeight = 190}}, &Panel3D4);
   Place(Label8, Kind::Label, "Label8", {2360, 70, 2080, 360},
         {.caption = "First National Bank", .look = Heading(bankTeal, Align::Center)}, &Panel3D4);
-  Place(Label9, Kind::Label, "Label9", {2360, 450, 900, 340},
-        {.caption = "Net Worth $", .look = AmountName(bankTeal)}, &Panel3D4);
-  Place(BANKLABEL, Kind::Label, "BANKLABEL", {3260, 450, 1180, 340},
+  Place(Label9, Kind::Label, "Label9", {2360, 450, 980, 340},
+        {.caption = "Net Worth $", .look = {.ink = white, .ground = bankTeal, .letterHeight = 130}},
+        &Panel3D4);
+  Place(BANKLABEL, Kind::Label, "BANKLABEL", {3340, 450, 1100, 340},
         {.caption = "$", .look = amount, .label = "Bank's net worth"}, &Panel3D4);
   Place(CMDHELP, Kind::Button, "CMDHELP", {4500, 80, 600, 710},
         {.picture = PictureId::GFM_CMDHELP, .label = "Setup"}, &Panel3D4);

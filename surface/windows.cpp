@@ -28,8 +28,9 @@ GSTWindow::GSTWindow(Surface& surface)
 
 ICFWindow::ICFWindow(Surface& surface)
     : Window(surface, {"ICF", "Zelvo Setup options", 9348, 3360, TitleBar::NoBorder}) {
-  Place(Panel3D1, Kind::Panel, "Panel3D1", {60, 60, 4620, 3240}, {.look = panel});
-  Place(Panel3D2, Kind::Panel, "Panel3D2", {4740, 60, 4548, 3240}, {.look = panel});
+  // Bare ground around the panels: over it the legend line says what to do.
+  Place(Panel3D1, Kind::Panel, "Panel3D1", {200, 200, 4374, 2960}, {.look = panel});
+  Place(Panel3D2, Kind::Panel, "Panel3D2", {4774, 200, 4374, 2960}, {.look = panel});
 
   struct Icon {
     Control& control;
@@ -63,12 +64,12 @@ ICFWindow::ICFWindow(Surface& surface)
   }};
   // Three rows: eight, eight and six.
   for (int i = 0; i < static_cast<int>(icons.size()); ++i) {
-    const Box box = {150 + 548 * (i % 8), 180 + 640 * (i / 8), 480, 480};
+    const Box box = {110 + 525 * (i % 8), 120 + 590 * (i / 8), 480, 480};
     Place(icons[i].control, Kind::Image, icons[i].name, box,
           {.tag = icons[i].tag, .picture = icons[i].picture, .look = {.border = Border::Line}},
           &Panel3D1);
   }
-  Place(Label1, Kind::Label, "Label1", {120, 2160, 4380, 920},
+  Place(Label1, Kind::Label, "Label1", {110, 1920, 4155, 920},
         {.caption = "Move mouse over Icons",
          .look = {.ink = white, .ground = night, .letterHeight = 230, .align = Align::Center}},
         &Panel3D1);
@@ -78,20 +79,20 @@ ICFWindow::ICFWindow(Surface& surface)
   constexpr std::array<std::string_view, 4> tips = {"Easy to win", "Normal Chances",
                                                     "Better be Smart", "Better be Smart"};
   for (int i = 0; i < 4; ++i) {
-    Place(OPT1[i], Kind::Option, "OPT1", {150, 150 + 360 * i, 2150, 320},
+    Place(OPT1[i], Kind::Option, "OPT1", {110, 110 + 340 * i, 2150, 320},
           {.caption = levels[i], .tag = tips[i], .value = i == 0, .look = text}, &Panel3D2, i);
   }
-  Place(CKCHANCE, Kind::CheckBox, "CKCHANCE", {150, 1680, 2200, 320},
+  Place(CKCHANCE, Kind::CheckBox, "CKCHANCE", {110, 1560, 2200, 320},
         {.caption = "Use Chance cards", .value = true, .look = text}, &Panel3D2);
-  Place(CKBANK, Kind::CheckBox, "CKBANK", {150, 2040, 2200, 320},
+  Place(CKBANK, Kind::CheckBox, "CKBANK", {110, 1900, 2200, 320},
         {.caption = "Bank is Player also", .value = true, .look = text}, &Panel3D2);
-  Place(CMDSOUND, Kind::Button, "CMDSOUND", {2420, 150, 1980, 560},
+  Place(CMDSOUND, Kind::Button, "CMDSOUND", {2330, 120, 1930, 540},
         {.caption = "Sound On", .look = button}, &Panel3D2);
-  Place(CMDEXP, Kind::Button, "CMDEXP", {2420, 770, 1980, 560},
+  Place(CMDEXP, Kind::Button, "CMDEXP", {2330, 720, 1930, 540},
         {.caption = "Game Explaination", .look = button}, &Panel3D2);
-  Place(CMDABOUT, Kind::Button, "CMDABOUT", {2420, 1390, 1980, 560},
+  Place(CMDABOUT, Kind::Button, "CMDABOUT", {2330, 1320, 1930, 540},
         {.caption = "About Box", .look = button}, &Panel3D2);
-  Place(cmdexit, Kind::Button, "cmdexit", {2420, 2530, 1980, 560},
+  Place(cmdexit, Kind::Button, "cmdexit", {2330, 2300, 1930, 540},
         {.caption = "Exit Setup", .look = button}, &Panel3D2);
 }
 

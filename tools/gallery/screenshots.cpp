@@ -1,6 +1,7 @@
 // Plays a game in the real windows and saves what the player sees: zelvo-screenshots FOLDER
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QTimer>
 #include <cstdio>
@@ -47,6 +48,11 @@ class Photographer {
     WindowView& view = desktop_.View(window);
     view.SetScale(scale);
     desktop_.platform.Sync();
+    // A control that twitched is drawn as gone for a moment yet.
+    const QDeadlineTimer settled(300);
+    while (!settled.hasExpired()) {
+      QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents, 20);
+    }
     view.grab().save(QStringLiteral("%1/%2.png").arg(folder_, name));
   }
 

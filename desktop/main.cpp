@@ -78,7 +78,7 @@ int main(int argc, char** argv) {
   const QApplication app(argc, argv);
   qInstallMessageHandler(usual);
   ReadOptions(app);
-  QGuiApplication::setDesktopFileName("zelvo");
+  QGuiApplication::setDesktopFileName("org.zelvo.Zelvo");
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QPixmapCache::setCacheLimit(32 * 1024);
 

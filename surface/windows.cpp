@@ -230,7 +230,8 @@ BKWindow::BKWindow(Surface& surface)
 ABTWindow::ABTWindow(Surface& surface)
     : Window(surface, {"ABT", "About Box", 5400, 4200, TitleBar::CloseOnly, cream}) {
   Place(Image1, Kind::Image, "Image1", {2140, 180, 1120, 1120}, {.picture = PictureId::ABT_Image1});
-  Place(Label1, Kind::Label, "Label1", {150, 1420, 5100, 2600}, {.look = centred});
+  Place(Label1, Kind::Label, "Label1", {100, 1420, 5200, 2600},
+        {.look = {.letterHeight = 180, .align = Align::Center}});
 }
 
 }  // namespace zelvo

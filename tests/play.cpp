@@ -4,19 +4,9 @@
 
 #include <sstream>
 
-#include "headless/scripted_game.h"
-
 namespace zelvo::test {
 
-std::vector<Json> Play(const std::string& script) {
-  std::istringstream commands(script);
-  std::ostringstream output;
-  ScriptedGame(commands, output).Run();
-  std::vector<Json> lines;
-  std::istringstream read(output.str());
-  for (std::string line; std::getline(read, line);) lines.push_back(Json::parse(line));
-  return lines;
-}
+std::vector<Json> Play(const std::string& script) { return Scripted(script).Lines(); }
 
 std::vector<Json> Values(const std::string& script) {
   std::vector<Json> values;
@@ -40,6 +30,36 @@ std::string Times(int count, const std::string& command) {
   std::string script;
   for (int i = 0; i < count; ++i) script += command + "\n";
   return script;
+}
+
+Json Last(const std::string& script) { return Play("click GST.CMDSTART\n" + script).back(); }
+
+std::string Get(const std::string& names) {
+  std::istringstream words(names);
+  std::string script;
+  for (std::string name; words >> name;) script.append("get ").append(name).append("\n");
+  return script;
+}
+
+std::vector<std::string> Pieces(const std::string& table, char separator) {
+  std::vector<std::string> pieces;
+  std::istringstream rest(table);
+  for (std::string piece; std::getline(rest, piece, separator);) {
+    const auto first = piece.find_first_not_of(" \n");
+    const auto last = piece.find_last_not_of(" \n");
+    if (first != std::string::npos) pieces.push_back(piece.substr(first, last - first + 1));
+  }
+  return pieces;
+}
+
+Scripted::Scripted(const std::string& script)
+    : ScriptStreams{std::istringstream(script), {}}, ScriptedGame(commands, output) {}
+
+std::vector<Json> Scripted::Lines() {
+  Run();
+  std::vector<Json> lines;
+  for (const std::string& line : Pieces(output.str(), '\n')) lines.push_back(Json::parse(line));
+  return lines;
 }
 
 }  // namespace zelvo::test

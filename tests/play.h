@@ -1,8 +1,11 @@
 #pragma once
 
 #include <nlohmann/json.hpp>
+#include <sstream>
 #include <string>
 #include <vector>
+
+#include "headless/scripted_game.h"
 
 namespace zelvo::test {
 
@@ -21,5 +24,27 @@ std::vector<std::string> Texts(const std::string& script);
 
 /// The same command a number of times.
 std::string Times(int count, const std::string& command);
+
+/// The last line of a script that is played in a new game, as those of `Values` are.
+Json Last(const std::string& script);
+
+/// `get` commands for the names of a text, with blanks between them.
+std::string Get(const std::string& names);
+
+/// The pieces of a table between its separators, without blanks and line ends around them.
+std::vector<std::string> Pieces(const std::string& table, char separator = '|');
+
+struct ScriptStreams {
+  std::istringstream commands;
+  std::ostringstream output;
+};
+
+/// A scripted game with a script of its own, for a test that watches it or has a hand in it.
+class Scripted : private ScriptStreams, public ScriptedGame {
+ public:
+  explicit Scripted(const std::string& script = "");
+  /// Plays the script and gives its lines.
+  std::vector<Json> Lines();
+};
 
 }  // namespace zelvo::test

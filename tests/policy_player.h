@@ -2,6 +2,7 @@
 
 #include <array>
 #include <deque>
+#include <map>
 #include <set>
 #include <streambuf>
 #include <string>
@@ -33,10 +34,6 @@ class PolicyPlayer : public std::streambuf {
   const std::string& transcript() const { return transcript_; }
 
  protected:
-  std::streamsize xsputn(const char* text, std::streamsize size) override {
-    transcript_.append(text, static_cast<std::size_t>(size));
-    return size;
-  }
   int_type overflow(int_type c) override {
     transcript_ += static_cast<char>(c);
     return c;
@@ -58,17 +55,15 @@ class PolicyPlayer : public std::streambuf {
     }
     if (waiting == "HS")
       return game().HS->CMDAN1[0].Visible ? "click HS.CMDAN1(0)" : "click HS.CMDAN1(1)";
-    if (waiting == "RB") return "close RB";
-    if (waiting == "SV") return "click SV.CMDOK";
-    if (waiting == "ML") return "click ML.CMD1(0)";
     if (waiting == "CHN")
       return game().CHN->CMDOK.Visible ? "click CHN.CMDOK" : "click CHN.Image1(1)";
-    if (waiting == "WINX") {
-      winner_ = game().WINX->Label2.Caption;
-      return "click WINX.CMDEXIT";
-    }
-    if (waiting == "GST" && plan_.empty()) return "quit";
-    if (game().TurnNo >= lastTurn) return "quit";
+    if (waiting == "WINX") winner_ = game().WINX->Label2.Caption;
+    static const std::map<std::string, std::string> ways = {{"RB", "close RB"},
+                                                            {"SV", "click SV.CMDOK"},
+                                                            {"ML", "click ML.CMD1(0)"},
+                                                            {"WINX", "click WINX.CMDEXIT"}};
+    if (const auto way = ways.find(waiting); way != ways.end()) return way->second;
+    if ((waiting == "GST" && plan_.empty()) || game().TurnNo >= lastTurn) return "quit";
     if (plan_.empty()) PlanTurn();
     std::string command = plan_.front();
     plan_.pop_front();
@@ -76,12 +71,9 @@ class PolicyPlayer : public std::streambuf {
   }
 
   Currency PlayersCash() {
-    std::int64_t dollars = 0;
-    const std::string& caption = game().GFM->PCredit.Caption;
-    for (const char c : caption) {
-      if (c >= '0' && c <= '9') dollars = dollars * 10 + (c - '0');
-    }
-    return Dollars(caption.front() == '-' ? -dollars : dollars);
+    std::string digits = game().GFM->PCredit.Caption;
+    std::erase_if(digits, [](char c) { return c == '$' || c == ','; });
+    return Dollars(std::stoll(digits));
   }
 
   void PlanTurn() {

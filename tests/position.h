@@ -1,17 +1,17 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <initializer_list>
 #include <map>
-#include <ostream>
-#include <sstream>
+#include <set>
 #include <stdexcept>
 #include <string>
-#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "game/random.h"
-#include "headless/scripted_game.h"
 #include "tests/play.h"
 
 namespace zelvo::test {
@@ -35,19 +35,24 @@ inline std::string Lot(int lot, const std::string& tag, const std::string& value
          (insured ? " -1\n" : " 0\n");
 }
 
-inline std::string Cash(const std::string& player, const std::string& computer) {
-  return "set GFM.PCredit.Caption \"" + player + "\"\nset GFM.CCredit.Caption \"" + computer +
-         "\"\n";
-}
-
 inline std::string Set(const std::string& name, const std::string& value) {
   return "set " + name + " " + value + "\n";
 }
 
-inline std::string Gets(std::initializer_list<std::string> names) {
-  std::string script;
-  for (const std::string& name : names) script += "get " + name + "\n";
-  return script;
+inline std::string Cash(const std::string& player, const std::string& computer) {
+  return Set("GFM.PCredit.Caption", '"' + player + '"') +
+         Set("GFM.CCredit.Caption", '"' + computer + '"');
+}
+
+inline std::string Level(int level) { return Set("SkillLevel", std::to_string(level)); }
+
+constexpr const char* endTurn = "click GFM.CMDGO\n";
+
+/// `get` commands for the two sides' cash, and for a lot's tag and value.
+inline std::string Cashes() { return Get("GFM.PCredit.Caption GFM.CCredit.Caption"); }
+inline std::string TagOf(int lot) { return Get("GFM.Image1(" + std::to_string(lot) + ").Tag"); }
+inline std::string TagAndValue(int lot) {
+  return TagOf(lot) + Get("LotValue(" + std::to_string(lot) + ")");
 }
 
 /// The values of a script's `get` commands in one line, as in "$1,000 | CU | -1".
@@ -55,6 +60,14 @@ inline std::string Told(const std::string& script) {
   std::string line;
   for (const std::string& text : Texts(script)) line += (line.empty() ? "" : " | ") + text;
   return line;
+}
+
+/// Scripts and what their `get` commands tell.
+using Rows = std::vector<std::pair<std::string, std::string>>;
+
+/// Plays the script of each row between the same beginning and the same end.
+inline void ExpectTold(const std::string& before, const Rows& rows, const std::string& after = "") {
+  for (const auto& [script, told] : rows) EXPECT_EQ(Told(before + script + after), told) << script;
 }
 
 /// A board on which an ordinary event changes nothing: every request ends in a rezoning, and finds
@@ -93,22 +106,18 @@ inline std::string Draws(std::initializer_list<Draw> draws) {
   throw std::logic_error("no state of the generator draws these lots");
 }
 
-/// What the message panel shows at each wait of the game, without repetitions; a script's lines
-/// come too late for news that the next rule overwrites.
-inline std::vector<std::string> NewsDuring(const std::string& script) {
-  class Watcher : public ScriptedGame {
-   public:
-    using ScriptedGame::ScriptedGame;
+/// What the message panel shows at the waits of the game; a script's lines come too late for news
+/// that the next rule overwrites.
+inline std::set<std::string> NewsDuring(const std::string& script) {
+  struct Watcher : Scripted {
+    using Scripted::Scripted;
     void YieldUntilEvent() override {
-      const std::string& shown = game().GFM->PSHOW.Caption;
-      if (news.empty() || news.back() != shown) news.push_back(shown);
-      ScriptedGame::YieldUntilEvent();
+      news.insert(game().GFM->PSHOW.Caption);
+      Scripted::YieldUntilEvent();
     }
-    std::vector<std::string> news;
+    std::set<std::string> news;
   };
-  std::istringstream commands("click GST.CMDSTART\n" + script);
-  std::ostringstream lines;
-  Watcher watcher(commands, lines);
+  Watcher watcher("click GST.CMDSTART\n" + script);
   watcher.Run();
   return watcher.news;
 }

@@ -1,0 +1,205 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <set>
+
+#include "tests/position.h"
+
+namespace zelvo::test {
+namespace {
+
+/// A machine that leaves modal windows to the test.
+struct Machine : Scripted {
+  Machine() : Scripted("answer ok\n") {}
+  void RunModal(Window& window) override { inModal(window); }
+  std::string AppFolder() override { return "C:\\"; }
+  std::function<void(Window&)> inModal = [](Window& /*window*/) {};
+};
+
+bool Inside(const Box& box, const Box& outer) {
+  return box.width > 0 && box.height > 0 && box.left >= outer.left && box.top >= outer.top &&
+         box.left + box.width <= outer.left + outer.width &&
+         box.top + box.height <= outer.top + outer.height;
+}
+
+bool Overlap(const Box& a, const Box& b) {
+  return a.left < b.left + b.width && b.left < a.left + a.width && a.top < b.top + b.height &&
+         b.top < a.top + a.height;
+}
+
+void CheckControl(const Control& control, const std::string& family) {
+  const WindowDesign& window = control.window().design();
+  const ControlDesign& design = control.design();
+  const Kind kind = control.kind();
+  const Control* container = control.container();
+  EXPECT_EQ(control.window().Find(control.FullName()), &control) << "the name is taken";
+  EXPECT_TRUE(container == nullptr || container->kind() == Kind::Panel);
+  const Box frame = container ? container->Place() : Box{0, 0, window.width, window.height};
+  // The pictures of the bank's show lie outside the window.
+  EXPECT_EQ(Inside(control.Place(), frame), kind != Kind::Timer && family != "BK.Image1");
+  if (kind == Kind::Button || kind == Kind::Option || kind == Kind::CheckBox) {
+    EXPECT_TRUE(control.handlers.click != nullptr);
+    EXPECT_TRUE(!design.caption.empty() || design.picture != PictureId::None);
+  }
+  EXPECT_EQ(control.handlers.timer != nullptr, kind == Kind::Timer);
+  EXPECT_EQ(control.Interval(), family == "BK.Timer1" ? 500 : 0);
+  EXPECT_EQ(control.Enabled(), family != "BK.Timer1");
+  if (design.picture == PictureId::None) return;
+  EXPECT_TRUE(kind == Kind::Image || kind == Kind::Button);
+  EXPECT_EQ(PictureOwner(design.picture), std::string(window.name) + "." + control.FullName());
+}
+
+TEST(Windows, AreWellFormedEachAndAll) {
+  Machine machine;
+  std::set<PictureId> owned;
+  // Controls that are hidden, that take clicks though their kind need not, that drop them if busy.
+  std::set<std::string> special;
+  for (const auto& [name, title, width, height, titleBar, controls] :
+       {std::tuple{"GST", "Zelvo 32", 9504, 6756, TitleBar::Sizable, 8U},
+        {"GFM", "Game Board", 9504, 6756, TitleBar::Sizable, 167U},
+        {"ICF", "Zelvo Setup options", 9348, 3360, TitleBar::NoBorder, 35U},
+        {"TT", "", 4788, 2640, TitleBar::NoButtons, 4U},
+        {"WINX", "The Winner is", 6600, 2376, TitleBar::NoButtons, 4U},
+        {"HH", "Zelvo Help", 7500, 6720, TitleBar::Fixed, 3U},
+        {"HS", "Zelvo Statistics", 3288, 4536, TitleBar::NoButtons, 10U},
+        {"SV", "Property Repairs", 3396, 2844, TitleBar::NoButtons, 3U},
+        {"RB", "Oh, Oh", 2928, 3516, TitleBar::CloseOnly, 3U},
+        {"ML", "Mall", 3300, 3720, TitleBar::Fixed, 5U},
+        {"CHN", "Take a Chance", 7092, 3036, TitleBar::Fixed, 6U},
+        {"BK", "The Bank", 5328, 5040, TitleBar::NoButtons, 16U},
+        {"ABT", "About Box", 5400, 4200, TitleBar::CloseOnly, 2U}}) {
+    SCOPED_TRACE(name);
+    Window* window = machine.game().FindWindow(name);
+    ASSERT_NE(window, nullptr);
+    machine.game().Load(*window);
+    EXPECT_EQ(window->Caption, title);
+    EXPECT_TRUE(window->design().width == width && window->design().height == height);
+    EXPECT_EQ(window->design().titleBar, titleBar);
+    EXPECT_EQ(window->controls().size(), controls);
+    std::set<const Control*> lower = {nullptr};
+    for (const Control* control : window->controls()) {
+      SCOPED_TRACE(control->FullName());
+      EXPECT_TRUE(lower.contains(control->container()));
+      lower.insert(control);
+      const std::string family = std::string(name) + "." + std::string(control->name());
+      CheckControl(*control, family);
+      owned.insert(control->design().picture);
+      const bool unasked = control->kind() == Kind::Image || control->kind() == Kind::Label;
+      const std::string traits = std::string(control->Visible ? "" : "h") +
+                                 (unasked && control->handlers.click != nullptr ? "c" : "") +
+                                 (control->handlers.dropsClicksWhileBusy ? "d" : "");
+      if (!traits.empty()) special.insert(family + " " + traits);
+    }
+  }
+  EXPECT_EQ(std::vector(special.begin(), special.end()), Pieces(R"(
+ABT.Image1 c | ABT.Label1 c | CHN.Image1 c | CHN.Label2 h | GFM.BANKLABEL c | GFM.BEST cd |
+GFM.BUILDIT hd | GFM.CMDBUILD hd | GFM.CMDBUY hd | GFM.CMDSELL hd | GFM.CMDSHOT hd | GFM.CUP h |
+GFM.HILTON cd | GFM.Image1 cd | GFM.LITE h | GFM.Label1 c | GFM.Label8 c | GFM.PUP h |
+GFM.QUALITY cd | GFM.RAMADA cd | GFM.Rest cd | GFM.SUPER cd | GFM.THRIFTY cd)"));
+  // Every picture of the program belongs to a control; None is the first.
+  EXPECT_EQ(owned.size(), static_cast<std::size_t>(PictureId::Count));
+}
+
+TEST(Windows, CaptionsThatAreEasilyMistyped) {
+  EXPECT_EQ(Told(Get("GFM.NHLabel(0).Caption GFM.NHLabel(1).Caption GFM.Label4(1).Caption "
+                     "GFM.Label6(0).Caption GFM.Label6(4).Caption ICF.CMDEXP.Caption")),
+            "Number of properties owned   | Number of properties owned  | Credit  $ | "
+            "M A D I S  O N    P L A C E | P A R  K      P L A C E | Game Explaination");
+}
+
+TEST(Windows, LotsLieInTheirBlocksAndStreetsBetweenThem) {
+  constexpr int left[] = {0, 960, 1440, 1920, 2400, 3120, 3600, 4080, 4560, 5280};
+  constexpr int top[] = {0, 720, 1200, 1920, 2400, 3120, 3600, 4200, 4680, 5280};
+  Machine machine;
+  GFMWindow& board = machine.game().GFM.Untouched();
+  for (int i = 0; i < lotCount; ++i) {
+    const Box lot = board.Image1[i].Place();
+    EXPECT_TRUE(lot.left == 50 + left[i % 10] && lot.width == 480) << i;
+    EXPECT_TRUE(lot.top == 30 + top[i / 10] && lot.height == 480) << i;
+    for (const Control* strip : board.controls()) {
+      if (strip->name() != "Label6" && strip->name() != "Label7") continue;
+      EXPECT_FALSE(Overlap(lot, strip->Place())) << i << " under " << strip->FullName();
+    }
+  }
+  for (int light = 2; light <= 6; ++light) {
+    const Box before = board.LITE[light - 1].Place();
+    EXPECT_FALSE(Overlap(before, board.LITE[light].Place())) << light;
+    EXPECT_GT(board.LITE[light].Place().width, before.width) << light;
+  }
+  int bottom = 0;
+  for (const std::string& name : Pieces("Label2|PCredit|PNW|PNOH|Label3|CCredit|CNW|CNOH|LSHOW|"
+                                        "LITE(1)|PSHOW|SUPER|Rest|CMDBUY|CMDSELL|CMDGO")) {
+    const Box box = board.Find(name)->Place();
+    EXPECT_LE(bottom, box.top) << name;
+    bottom = box.top + box.height;
+  }
+}
+
+/// What the windows raised, in order.
+std::string raised;
+
+template <char window, char event>
+void Note(Game& /*game*/) {
+  raised += {window, event, ' '};
+}
+
+template <char window>
+constexpr WindowHandlers notes = {.load = Note<window, 'l'>,
+                                  .activate = Note<window, 'a'>,
+                                  .resize = Note<window, 'r'>,
+                                  .queryUnload = Note<window, 'q'>,
+                                  .unload = Note<window, 'u'>};
+
+TEST(WindowLife, EventsComeInOrder) {
+  Machine machine;
+  Game& game = machine.game();
+  game.GFM.Untouched().handlers = notes<'B'>;
+  game.BK.Untouched().handlers = notes<'K'>;
+  const auto after = [](auto&& deed) {
+    raised.clear();
+    deed();
+    return raised;
+  };
+  EXPECT_EQ(after([&] { game.GFM->PCredit.Caption = "$5"; }), "Bl ");
+  EXPECT_EQ(after([&] { game.Show(game.GFM); }), "Br Ba ");
+  EXPECT_EQ(after([&] { game.Show(game.GFM); }), "Ba ");
+  EXPECT_EQ(after([&] { game.Hide(game.GFM); }), "");
+  EXPECT_EQ(game.GFM->PCredit.Caption, "$5");
+  EXPECT_EQ(after([&] { game.Show(game.GFM); }), "Br Ba ");
+  EXPECT_EQ(after([&] { game.Resize(game.GFM, Extent::Maximised); }), "Br ");
+  EXPECT_EQ(after([&] { game.MessageBox("?", MessageStyle::Ok); }), "");
+  machine.inModal = [&](Window& window) {
+    raised += "... ";
+    EXPECT_EQ(game.InputWindow(), &window);
+    game.Hide(window);
+  };
+  EXPECT_EQ(after([&] { game.ShowModal(game.BK); }), "Kl Kr Ka ... Ba ");
+  EXPECT_EQ(after([&] { game.Close(game.BK); }), "") << "it has no close box and is hidden";
+  EXPECT_EQ(after([&] { game.Close(game.GFM); }), "Bq Bu ");
+  EXPECT_EQ(after([&] { EXPECT_EQ(game.GFM->PCredit.Caption, ""); }), "Bl ");
+  game.End();
+  EXPECT_EQ(after([&] { game.ShowModal(game.BK); }), "") << "nothing is raised after the end";
+}
+
+TEST(WindowLife, ControlsKeepWhatTheyHoldAndOptionsClearTheirGroup) {
+  EXPECT_EQ(Told("click GFM.CMDHELP\nclick ICF.OPT1(3)\nclick ICF.OPT1(1)\nclick ICF.CKBANK\n"
+                 "click ICF.cmdexit\nclick GFM.CMDHELP\n" +
+                 Get("ICF.OPT1(0).Value ICF.OPT1(1).Value ICF.OPT1(3).Value SkillLevel "
+                     "ICF.CKBANK.Value ICF.CKCHANCE.Value")),
+            "0 | -1 | 0 | 1 | 0 | -1");
+}
+
+TEST(WindowLife, TheStartWindowFollowsTheBoardsExtent) {
+  Machine machine;
+  Game& game = machine.game();
+  game.Start();
+  game.Click(game.GST->CMDSTART);
+  game.GFM->Caption = "Hilton";
+  game.Resize(game.GFM, Extent::Minimised);
+  EXPECT_EQ(game.GFM->Caption, "Board Game");
+  EXPECT_EQ(game.GST->extent, Extent::Minimised);
+  EXPECT_EQ(game.AppPath, "C:\\") << "no second backslash";
+}
+
+}  // namespace
+}  // namespace zelvo::test

@@ -154,8 +154,8 @@ TEST(Casino, BuysFromTheWillingPlayerAndFromTheComputerUnasked) {
       "",
       {{Lot37("PHH") + casino + "answer yes\n",
         "You're Richer !  Player Gets $$200,000 | $1,200,000 | $0" + sold},
-       {Lot37("PU") + casino + "answer no\n",
-        "Player\n\rChoose Purchased or open lot to build or buy | $1,000,000 | $0 | PU | "
+       {Lot37("PHH") + casino + "answer no\n",
+        "Player\n\rChoose Purchased or open lot to build or buy | $1,000,000 | $0 | PHH | "
         "100000 | 75000 | 1000000 | 0"},
        {Lot37("CHH") + casino,
         "Computer gets Richer. Too bad You didn't own the lot ! | $1,000,000 | $200,000" + sold},

@@ -69,10 +69,4 @@ int NumberFrom(std::string_view text) {
   return static_cast<int>(negative ? -number : number);
 }
 
-std::string_view Trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 }  // namespace zelvo

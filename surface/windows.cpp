@@ -86,13 +86,13 @@ ICFWindow::ICFWindow(Surface& surface)
         {.caption = "Use Chance cards", .value = true, .look = text}, &Panel3D2);
   Place(CKBANK, Kind::CheckBox, "CKBANK", {110, 1900, 2200, 320},
         {.caption = "Bank is Player also", .value = true, .look = text}, &Panel3D2);
-  Place(CMDSOUND, Kind::Button, "CMDSOUND", {2330, 120, 1930, 540},
+  Place(CMDSOUND, Kind::Button, "CMDSOUND", {2260, 120, 2010, 540},
         {.caption = "Sound On", .look = button}, &Panel3D2);
-  Place(CMDEXP, Kind::Button, "CMDEXP", {2330, 720, 1930, 540},
+  Place(CMDEXP, Kind::Button, "CMDEXP", {2260, 720, 2010, 540},
         {.caption = "Game Explaination", .look = button}, &Panel3D2);
-  Place(CMDABOUT, Kind::Button, "CMDABOUT", {2330, 1320, 1930, 540},
+  Place(CMDABOUT, Kind::Button, "CMDABOUT", {2260, 1320, 2010, 540},
         {.caption = "About Box", .look = button}, &Panel3D2);
-  Place(cmdexit, Kind::Button, "cmdexit", {2330, 2300, 1930, 540},
+  Place(cmdexit, Kind::Button, "cmdexit", {2260, 2300, 2010, 540},
         {.caption = "Exit Setup", .look = button}, &Panel3D2);
 }
 

@@ -113,14 +113,20 @@ void ControlWidget::BecomeVisible(bool visible) {
   if (!visible) {
     gone_.start(goneForMilliseconds, this);
   } else if (!gone_.isActive()) {
-    setVisible(true);
+    ShowOrHide();
   }
+}
+
+void ControlWidget::ShowOrHide() {
+  if (!shown_.visible && hasFocus()) view_.AwaitFocusOf(*this);
+  setVisible(shown_.visible);
+  if (shown_.visible) view_.ComeBack(*this);
 }
 
 void ControlWidget::timerEvent(QTimerEvent* event) {
   if (event->timerId() != gone_.timerId()) return;
   gone_.stop();
-  setVisible(shown_.visible);
+  ShowOrHide();
   update();
 }
 
@@ -241,7 +247,11 @@ void ControlWidget::Press() { view_.Click(*this); }
 
 void ControlWidget::mouseMoveEvent(QMouseEvent* /*event*/) { view_.Hover(*this); }
 
-void ControlWidget::enterEvent(QEnterEvent* /*event*/) { view_.Hover(*this); }
+void ControlWidget::enterEvent(QEnterEvent* event) {
+  // A window that came up in between may have taken the release.
+  if (!event->buttons().testFlag(Qt::LeftButton)) pressed_ = false;
+  view_.Hover(*this);
+}
 
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
   struct Arrow {

@@ -70,6 +70,7 @@ class ControlWidget : public QWidget {
   bool ShowsWhatIs() const;
   void TakeOver();
   void BecomeVisible(bool visible);
+  void ShowOrHide();
   void DrawBody(QPainter& painter);
   void DrawCaption(QPainter& painter);
   void DrawPicture(QPainter& painter, const QRectF& area) const;

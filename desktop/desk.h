@@ -17,8 +17,8 @@ class Desk {
   virtual ~Desk() = default;
 
   /// Hands an event to the game, unless the game is holding still for a sound, and carries what it
-  /// changed over to the windows.
-  virtual void Deliver(const std::function<void(Surface&)>& event) = 0;
+  /// changed over to the windows. False if it was not handed over.
+  virtual bool Deliver(const std::function<void(Surface&)>& event) = 0;
 
   Pictures pictures;
   /// The player's last input came from the keyboard, so the focus is to be seen.

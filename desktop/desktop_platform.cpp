@@ -81,10 +81,11 @@ void DesktopPlatform::OpenAndCloseWindows() {
   if (!closing.empty() && !open_.empty()) open_.back()->activateWindow();
 }
 
-void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event) {
-  if (waitsForSound_ || HasEnded()) return;
+bool DesktopPlatform::Deliver(const std::function<void(Surface&)>& event) {
+  if (waitsForSound_ || HasEnded()) return false;
   event(*surface_);
   Sync();
+  return true;
 }
 
 bool DesktopPlatform::eventFilter(QObject* /*object*/, QEvent* event) {
@@ -218,6 +219,7 @@ void DesktopPlatform::WaitForSound(std::chrono::milliseconds length) {
                                     QEventLoop::WaitForMoreEvents);
   }
   waitsForSound_ = false;
+  for (WindowView* view : std::vector<WindowView*>(open_)) view->TellSizeIfDue();
   for (const Control* control : std::exchange(heldTicks_, {})) timers_.at(control)->start(0);
 }
 

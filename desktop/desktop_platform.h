@@ -58,7 +58,7 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void TimerChanged(Control& timer) override;
   void End() override;
 
-  void Deliver(const std::function<void(Surface&)>& event) override;
+  bool Deliver(const std::function<void(Surface&)>& event) override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace zelvo {
 namespace {
@@ -92,6 +93,9 @@ void WindowView::SetScale(double scale) {
 
 void WindowView::Open(const WindowView* opener) {
   opening_ = true;
+  // The window may have been unloaded while it was maximised.
+  if (extent_ != window_.extent) ApplyExtent();
+  awaited_ = nullptr;
   lastFocused_.clear();
   ClearMark();
   if (opener == nullptr) {
@@ -158,15 +162,23 @@ void WindowView::LayOut() {
 
 void WindowView::resizeEvent(QResizeEvent* /*event*/) {
   LayOut();
-  if (opening_) return;
-  desk_.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); });
+  if (!opening_) TellSize();
 }
 
 void WindowView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::WindowStateChange || ExtentOf(windowState()) == extent_) return;
   extent_ = ExtentOf(windowState());
-  desk_.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); });
+  window_.extent = extent_;
+  TellSize();
+}
+
+void WindowView::TellSize() {
+  sizeTold_ = desk_.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); });
+}
+
+void WindowView::TellSizeIfDue() {
+  if (!sizeTold_) TellSize();
 }
 
 void WindowView::ApplyExtent() {
@@ -206,8 +218,13 @@ void WindowView::mouseMoveEvent(QMouseEvent* /*event*/) {
   desk_.Deliver([this](Surface& surface) { surface.Hover(window_); });
 }
 
+void WindowView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton) pressed_ = true;
+}
+
 void WindowView::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
+  if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false)) return;
+  if (!rect().contains(event->position().toPoint())) return;
   desk_.Deliver([this](Surface& surface) { surface.Click(window_); });
 }
 
@@ -240,10 +257,20 @@ void WindowView::FocusOn(const Control& control) {
 }
 
 void WindowView::FocusCame(ControlWidget& widget, Qt::FocusReason reason) {
+  awaited_ = nullptr;
   if (widget.IsWalked()) lastFocused_[widget.control().name()] = &widget;
   widget.update();
   const bool moved = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
   if (moved && desk_.usesKeys) Hover(widget);
+}
+
+void WindowView::AwaitFocusOf(ControlWidget& widget) {
+  widget.clearFocus();  // or Qt would hand it to the next one
+  awaited_ = &widget;
+}
+
+void WindowView::ComeBack(ControlWidget& widget) {
+  if (awaited_ == &widget) widget.setFocus(Qt::OtherFocusReason);
 }
 
 void WindowView::ShowFocus() {
@@ -305,7 +332,8 @@ bool WindowView::focusNextPrevChild(bool next) {
   const auto place = [this](const ControlWidget* widget) {
     return std::find(widgets_.begin(), widgets_.end(), widget) - widgets_.begin();
   };
-  const auto from = place(FocusedWidget());
+  const ControlWidget* focused = FocusedWidget();
+  const auto from = place(focused != nullptr ? focused : awaited_);
   ControlWidget* target = nullptr;
   if (next) {
     const auto after = std::find_if(stops.begin(), stops.end(),

@@ -27,6 +27,8 @@ class WindowView : public QWidget {
   /// Puts the window on the screen: a dialog centred over its opener and at its scale, another one
   /// in its place. Without an opener at a size that suits the screen.
   void Open(const WindowView* opener);
+  /// Tells the game of a change of size that it could not be told of when it came.
+  void TellSizeIfDue();
   /// Carries over what the window's data holds.
   void Sync();
   /// 1 is the design size at 96 dpi.
@@ -42,6 +44,10 @@ class WindowView : public QWidget {
   /// Moves the focus to the nearest of the same array in a direction, as from lot to lot.
   void Walk(ControlWidget& from, QPoint direction);
   void FocusCame(ControlWidget& widget, Qt::FocusReason reason);
+  /// A control with the focus goes; if it comes back before the focus went elsewhere, as the button
+  /// that ends the turn does, it gets the focus again.
+  void AwaitFocusOf(ControlWidget& widget);
+  void ComeBack(ControlWidget& widget);
   /// Takes the mark off what the player clicked last.
   void ClearMark();
   void FocusOn(const Control& control);
@@ -55,6 +61,7 @@ class WindowView : public QWidget {
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
@@ -65,6 +72,7 @@ class WindowView : public QWidget {
   void CentreOver(const WindowView& opener);
   void LayOut();
   void ApplyExtent();
+  void TellSize();
   void Mark(ControlWidget& widget);
   ControlWidget* FocusedWidget() const;
   ControlWidget* EntryOf(const ControlWidget& member) const;
@@ -75,7 +83,10 @@ class WindowView : public QWidget {
   std::vector<ControlWidget*> widgets_;
   std::map<std::string_view, ControlWidget*> lastFocused_;  // by the name of a walked array
   Extent extent_ = Extent::Normal;                          // as the widget shows it
+  ControlWidget* awaited_ = nullptr;                        // went away with the focus
   bool opening_ = false;
+  bool sizeTold_ = true;
+  bool pressed_ = false;
 };
 
 }  // namespace zelvo

@@ -97,6 +97,25 @@ TEST_F(Input, AFirstTurnWithTheKeyboardAlone) {
   EXPECT_EQ(Widget(game.GFM->PCredit).Text().text.toStdString(), game.GFM->PCredit.Caption);
 }
 
+TEST_F(Input, AButtonThatGoesAndComesBackGetsTheKeyboardBack) {
+  StartGame();
+  Control& go = game.GFM->CMDGO;
+  TabTo(go);
+  const auto show = [&](bool visible) {
+    go.Visible = visible;
+    platform.Sync();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Widget(go).isVisible() == visible; }));
+  };
+  show(false);
+  EXPECT_EQ(View(game.GFM).focusWidget(), nullptr);
+  show(true);
+  EXPECT_TRUE(Widget(go).hasFocus());
+  show(false);
+  TabTo(game.GFM->Label1);
+  show(true);
+  EXPECT_TRUE(Widget(game.GFM->Label1).hasFocus());
+}
+
 TEST_F(Input, TheKeyboardReachesWhateverCanBeClickedAndAVoiceNamesIt) {
   StartGame();
   for (Window* window : game.Windows()) {

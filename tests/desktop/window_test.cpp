@@ -85,6 +85,18 @@ TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
     EXPECT_EQ(game.GFM->extent, extent);
     EXPECT_EQ(View(game.GST).windowState() & ~Qt::WindowActive, state);
   }
+  // Also when it comes while the game holds still for a sound, or after the board was closed so.
+  sound->isThere = true;
+  sound->whileItPlays = [this](const WaveFile&) {
+    View(game.GFM).setWindowState(Qt::WindowMaximized);
+  };
+  platform.PlaySound(game.AppPath + "CLICK.WAV", true);
+  platform.Sync();
+  EXPECT_TRUE(View(game.GFM).isMaximized() && View(game.GST).isMaximized());
+  View(game.GFM).close();
+  sound->whileItPlays = nullptr;
+  StartGame();
+  EXPECT_TRUE(View(game.GFM).isMaximized() && View(game.GST).isMaximized());
 }
 
 TEST_F(OnScreen, WidgetsShowWhatTheDataHolds) {

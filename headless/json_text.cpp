@@ -83,6 +83,9 @@ std::string ReadDecimal(std::string_view text, Currency& target) {
 }
 
 std::string ReadQuoted(std::string_view text, std::string& target) {
+  // The parser takes a byte order mark for nothing and a zero byte for the end.
+  const bool quoted = !text.empty() && text.front() == '"' && text.find('\0') == text.npos;
+  if (!quoted) return "that is no string in double quotes";
   const auto parsed = nlohmann::json::parse(text, nullptr, false);
   if (!parsed.is_string()) return "that is no string in double quotes";
   target = parsed.get<std::string>();

@@ -82,7 +82,7 @@ const std::vector<SharedVariable>& SharedVariables() {
       {"LoanAmount", Of<&Game::LoanAmount>},
       {"CardAmount", Of<&Game::CardAmount>},
       {"Word", Of<&Game::Word>},
-      {"Work", Of<&Game::Work>},
+      {"Work", Of<&Game::Work>, -32'768, 32'767},
       {"Idx", Of<&Game::Idx>},
       {"Money", Of<&Game::Money>},
       {"Delta", Of<&Game::Delta>},

@@ -98,11 +98,11 @@ std::string_view Surface::WhyNoInput(Window& window) {
   if (ended_) return "the program has ended";
   if (!window.IsShown()) return "the window is not shown";
   if (messageBoxes_ > 0) return "a message box keeps the window from input";
-  if (running_ >= deepest) return "too many handlers are running";
   // The board and the start window are both live as long as no modal window is up.
   const Window* input = InputWindow();
-  if (input == &window || input == &GFM.Untouched() || input == &GST.Untouched()) return "";
-  return "a modal window keeps the window from input";
+  const bool modal = input != &GFM.Untouched() && input != &GST.Untouched();
+  if (modal) return input == &window ? "" : "a modal window keeps the window from input";
+  return running_ < deepest ? "" : "too many handlers are running";
 }
 
 std::string_view Surface::WhyNoInput(Control& control) {

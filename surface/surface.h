@@ -89,8 +89,8 @@ class Surface {
   bool WillTick(const Control& timer) const { return !ended_ && timer.Ticks(); }
 
  protected:
-  /// How deep handlers may run on top of one another before input is refused. No player comes near
-  /// it; it keeps a script from exhausting the stack.
+  /// How deep handlers may run on top of one another before the board and the start window refuse
+  /// input. No player comes near it; it keeps a script from exhausting the stack.
   static constexpr int deepest = 60;
 
   /// The game that the handlers work on.

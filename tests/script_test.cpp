@@ -29,7 +29,7 @@ set CurLot 5 5 | set CurLot 5.0 | set SkillLevel 4 | set SoundOn 1 | set LotValu
 set LotValue(100) 5 | set LotValue(5) 1.00001 | set LotValue(5) 1. | set LotValue(5) $5 |
 set LotValue(5) 1e3 | set LotValue(5) 922337203685477.5808 | set TurnNo 99999999999 |
 set BrandSold(0) 1 | set BrandSold(7) 1 | set Generator 16777216 | set FreshLot 32001 |
-set Word SUPER | set Word "SUPER | set Word "\q" | set Word 5 | set GFM.CMDGO.Visible 1 |
+set Word SUPER | set Word "SUPER | set Word "\q" | set Word 5 | set Word ﻿"a" | set GFM.CMDGO.Visible 1 |
 set GFM.CMDGO.Picture ICF.LUND | set GFM.Image1(5).Picture ICF.Nothing |
 set GFM.Image1(5).Picture | set GFM.Timer1.Interval -1 | set GFM.Width 5 |
 set BK.Label1.Caption "x" | get | get Nothing | get LotValue | get CurLot(1) |
@@ -50,6 +50,7 @@ click GFM.CMDGO | hover GFM | close GST | answer ok | answer maybe | click GST.C
       EXPECT_EQ(answer, before) << line << ": neither time nor place moves, and nothing is told";
     }
   }
+  EXPECT_TRUE(Play(std::string("set Word \"a\"\0b\n", 15)).back().contains("error"));
   EXPECT_TRUE(Play("get " + std::string(100'000, 'x') + "\n").back().contains("error"));
 }
 

@@ -2,4 +2,4 @@
 play_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6-multimedia-dev
   nlohmann-json3-dev fonts-dejavu-core)
 check_packages=("${play_packages[@]}" clang clang-format clang-tidy libgtest-dev libgl-dev
-  'libclang-rt-dev|libclang-rt-14-dev')
+  'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')

@@ -1,6 +1,7 @@
 #include "game/currency.h"
 
 #include <cmath>
+#include <limits>
 
 namespace zelvo {
 namespace {

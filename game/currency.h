@@ -2,7 +2,6 @@
 
 #include <compare>
 #include <cstdint>
-#include <limits>
 
 namespace zelvo {
 

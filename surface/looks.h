@@ -33,7 +33,6 @@ constexpr Look panel = {.ground = face, .align = Align::Center, .border = Border
 constexpr Look button = {.letterHeight = 190, .align = Align::Center};
 constexpr Look text = {.letterHeight = 200};
 constexpr Look centred = {.letterHeight = 210, .align = Align::Center};
-constexpr Look title = {.letterHeight = 280, .bold = true, .align = Align::Center};
 constexpr Look message = {
     .ground = cream, .letterHeight = 210, .align = Align::Center, .border = Border::Sunken};
 constexpr Look street = {.ink = roadLetters,

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "events/board_event.h"
+#include "faces/headless/auto_player.h"
+#include "faces/headless/scripted_game.h"
 #include "game/lots.h"
-#include "headless/auto_player.h"
-#include "headless/scripted_game.h"
 
 namespace zelvo {
 namespace {

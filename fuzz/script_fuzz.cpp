@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "headless/scripted_game.h"
+#include "faces/headless/scripted_game.h"
 
 namespace {
 

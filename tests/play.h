@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "headless/scripted_game.h"
+#include "faces/headless/scripted_game.h"
 
 namespace zelvo::test {
 

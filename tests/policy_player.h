@@ -7,8 +7,8 @@
 #include <streambuf>
 #include <string>
 
+#include "faces/headless/scripted_game.h"
 #include "game/currency.h"
-#include "headless/scripted_game.h"
 #include "tests/play.h"
 
 namespace zelvo::test {

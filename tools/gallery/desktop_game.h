@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/desktop_platform.h"
+#include "faces/desktop/desktop_platform.h"
 #include "game/game.h"
 
 namespace zelvo {

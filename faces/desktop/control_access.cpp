@@ -1,8 +1,8 @@
-#include "desktop/control_access.h"
+#include "faces/desktop/control_access.h"
 
 #include <QAccessibleWidget>
 
-#include "desktop/control_widget.h"
+#include "faces/desktop/control_widget.h"
 
 namespace zelvo {
 namespace {

@@ -1,13 +1,13 @@
-#include "headless/scripted_game.h"
+#include "faces/headless/scripted_game.h"
 
 #include <array>
 #include <cstdio>
 #include <utility>
 
+#include "faces/headless/json_text.h"
+#include "faces/headless/properties.h"
+#include "faces/headless/variables.h"
 #include "game/text.h"
-#include "headless/json_text.h"
-#include "headless/properties.h"
-#include "headless/variables.h"
 
 namespace zelvo {
 namespace {

@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "desktop/control_widget.h"
-#include "desktop/desk.h"
+#include "faces/desktop/control_widget.h"
+#include "faces/desktop/desk.h"
 #include "surface/window.h"
 
 namespace zelvo {

@@ -10,7 +10,7 @@
 #include <span>
 #include <string_view>
 
-#include "desktop/desktop_platform.h"
+#include "faces/desktop/desktop_platform.h"
 #include "game/game.h"
 
 namespace {

@@ -1,6 +1,6 @@
 #include <iostream>
 
-#include "headless/scripted_game.h"
+#include "faces/headless/scripted_game.h"
 
 int main() {
   std::ios::sync_with_stdio(false);

@@ -1,4 +1,4 @@
-#include "desktop/sound_player.h"
+#include "faces/desktop/sound_player.h"
 
 #include <QAudioDevice>
 #include <QAudioSink>

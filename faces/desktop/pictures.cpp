@@ -1,4 +1,4 @@
-#include "desktop/pictures.h"
+#include "faces/desktop/pictures.h"
 
 #include <QPainter>
 #include <QPixmapCache>

@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "desktop/pictures.h"
+#include "faces/desktop/pictures.h"
 #include "surface/surface.h"
 
 namespace zelvo {

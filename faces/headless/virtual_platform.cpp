@@ -1,4 +1,4 @@
-#include "headless/virtual_platform.h"
+#include "faces/headless/virtual_platform.h"
 
 namespace zelvo {
 

@@ -1,4 +1,4 @@
-#include "desktop/window_view.h"
+#include "faces/desktop/window_view.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>

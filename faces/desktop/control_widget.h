@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <optional>
 
-#include "desktop/drawing.h"
+#include "faces/desktop/drawing.h"
 
 class QPlainTextEdit;
 

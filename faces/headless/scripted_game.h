@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "faces/headless/virtual_platform.h"
 #include "game/game.h"
-#include "headless/virtual_platform.h"
 
 namespace zelvo {
 

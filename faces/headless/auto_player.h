@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "faces/headless/virtual_platform.h"
 #include "game/game.h"
-#include "headless/virtual_platform.h"
 
 namespace zelvo {
 

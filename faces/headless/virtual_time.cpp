@@ -1,4 +1,4 @@
-#include "headless/virtual_time.h"
+#include "faces/headless/virtual_time.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "headless/json_text.h"
+#include "faces/headless/json_text.h"
 
 #include <algorithm>
 #include <charconv>

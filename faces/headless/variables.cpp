@@ -1,8 +1,8 @@
-#include "headless/variables.h"
+#include "faces/headless/variables.h"
 
 #include <charconv>
 
-#include "headless/json_text.h"
+#include "faces/headless/json_text.h"
 
 namespace zelvo {
 namespace {

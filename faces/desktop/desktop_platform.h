@@ -9,9 +9,9 @@
 #include <set>
 #include <vector>
 
-#include "desktop/desk.h"
-#include "desktop/sound_player.h"
-#include "desktop/window_view.h"
+#include "faces/desktop/desk.h"
+#include "faces/desktop/sound_player.h"
+#include "faces/desktop/window_view.h"
 #include "surface/surface.h"
 
 class QTimer;

@@ -1,4 +1,4 @@
-#include "desktop/control_widget.h"
+#include "faces/desktop/control_widget.h"
 
 #include <QAccessible>
 #include <QFocusEvent>
@@ -7,7 +7,7 @@
 #include <QPlainTextEdit>
 #include <cmath>
 
-#include "desktop/window_view.h"
+#include "faces/desktop/window_view.h"
 
 namespace zelvo {
 namespace {

@@ -1,9 +1,9 @@
-#include "headless/properties.h"
+#include "faces/headless/properties.h"
 
 #include <array>
 #include <initializer_list>
 
-#include "headless/json_text.h"
+#include "faces/headless/json_text.h"
 
 namespace zelvo {
 namespace {

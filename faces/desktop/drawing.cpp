@@ -1,4 +1,4 @@
-#include "desktop/drawing.h"
+#include "faces/desktop/drawing.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>

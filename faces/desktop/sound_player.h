@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "desktop/wave_file.h"
+#include "faces/desktop/wave_file.h"
 
 namespace zelvo {
 

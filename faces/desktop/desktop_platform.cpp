@@ -1,4 +1,4 @@
-#include "desktop/desktop_platform.h"
+#include "faces/desktop/desktop_platform.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "desktop/control_access.h"
+#include "faces/desktop/control_access.h"
 
 namespace zelvo {
 namespace {

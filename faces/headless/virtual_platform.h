@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "headless/virtual_time.h"
+#include "faces/headless/virtual_time.h"
 #include "surface/surface.h"
 
 namespace zelvo {

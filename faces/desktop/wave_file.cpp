@@ -1,4 +1,4 @@
-#include "desktop/wave_file.h"
+#include "faces/desktop/wave_file.h"
 
 #include <QFile>
 #include <QtEndian>

@@ -5,7 +5,7 @@
 
 #include "events/board_event.h"
 #include "faces/headless/auto_player.h"
-#include "faces/headless/scripted_game.h"
+#include "faces/headless/stream_game.h"
 #include "game/lots.h"
 
 namespace zelvo {
@@ -91,7 +91,7 @@ void ScriptLines(benchmark::State& state) {
   for (auto _ : state) {
     std::istringstream input(script);
     std::ostringstream output;
-    ScriptedGame(input, output).Run();
+    StreamGame(input, output).Run();
     benchmark::DoNotOptimize(output.str().size());
   }
   state.SetItemsProcessed(state.iterations() * commands);

@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "faces/headless/scripted_game.h"
+#include "faces/headless/stream_game.h"
 
 namespace {
 
@@ -28,7 +28,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string script(reinterpret_cast<const char*>(data), size);
   std::istringstream commands(WithoutLongWaits(script));
   std::ostringstream lines;
-  zelvo::ScriptedGame game(commands, lines);
+  zelvo::StreamGame game(commands, lines);
   game.Run();
   if (lines.str().empty() || lines.str().back() != '\n') std::abort();
   return 0;

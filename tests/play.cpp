@@ -53,7 +53,7 @@ std::vector<std::string> Pieces(const std::string& table, char separator) {
 }
 
 Scripted::Scripted(const std::string& script)
-    : ScriptStreams{std::istringstream(script), {}}, ScriptedGame(commands, output) {}
+    : ScriptStreams{std::istringstream(script), {}}, StreamGame(commands, output) {}
 
 std::vector<Json> Scripted::Lines() {
   Run();

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "faces/headless/scripted_game.h"
+#include "faces/headless/stream_game.h"
 
 namespace zelvo::test {
 
@@ -40,7 +40,7 @@ struct ScriptStreams {
 };
 
 /// A scripted game with a script of its own, for a test that watches it or has a hand in it.
-class Scripted : private ScriptStreams, public ScriptedGame {
+class Scripted : private ScriptStreams, public StreamGame {
  public:
   explicit Scripted(const std::string& script = "");
   /// Plays the script and gives its lines.

@@ -7,7 +7,7 @@
 #include <streambuf>
 #include <string>
 
-#include "faces/headless/scripted_game.h"
+#include "faces/headless/stream_game.h"
 #include "game/currency.h"
 #include "tests/play.h"
 
@@ -124,7 +124,7 @@ class PolicyPlayer : public std::streambuf {
   std::string transcript_;
   std::istream commands_{this};
   std::ostream lines_{this};
-  ScriptedGame scripted_{commands_, lines_};
+  StreamGame scripted_{commands_, lines_};
 };
 
 }  // namespace zelvo::test

@@ -75,17 +75,10 @@ void ControlWidget::SetInHand(bool inHand) {
 
 // What the widget shows.
 
-bool ControlWidget::ShowsWhatIs() const {
-  return shown_.visible == control_.VisibleInWindow() && shown_.picture == control_.Picture &&
-         shown_.enabled == control_.Enabled() && shown_.value == control_.Value() &&
-         shown_.caption == control_.Caption && shown_.text == control_.Text;
-}
-
 void ControlWidget::TakeOver() {
   if (shown_.caption != control_.Caption) text_.reset();
   const bool newText = shown_.text != control_.Text;
-  shown_ = {control_.Caption,   control_.Text,    control_.Picture,
-            control_.Enabled(), control_.Value(), control_.VisibleInWindow()};
+  shown_ = Shown::Of(control_);
   if (editor_ != nullptr && newText) editor_->setPlainText(ScreenText(control_.Text));
   setEnabled(control_.Enabled());
   update();
@@ -96,7 +89,7 @@ void ControlWidget::TakeOver() {
 }
 
 void ControlWidget::Sync() {
-  if (ShowsWhatIs()) return;
+  if (shown_.Shows(control_)) return;
   const bool wasVisible = shown_.visible;
   TakeOver();
   if (shown_.visible != wasVisible) BecomeVisible(shown_.visible);

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "faces/desktop/drawing.h"
+#include "faces/shown.h"
 
 class QPlainTextEdit;
 
@@ -57,17 +58,6 @@ class ControlWidget : public QWidget {
   void focusInEvent(QFocusEvent* event) override;
 
  private:
-  /// The control's data as the widget last took it over.
-  struct Shown {
-    std::string caption;
-    std::string text;
-    PictureId picture = PictureId::None;
-    bool enabled = true;
-    bool value = false;
-    bool visible = false;
-  };
-
-  bool ShowsWhatIs() const;
   void TakeOver();
   void BecomeVisible(bool visible);
   void ShowOrHide();
@@ -80,7 +70,7 @@ class ControlWidget : public QWidget {
 
   Control& control_;
   WindowView& view_;
-  Shown shown_;
+  Shown shown_;  // as last taken over
   double unit_ = 0;
   bool pressed_ = false;
   bool inHand_ = false;

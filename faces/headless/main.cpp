@@ -1,11 +1,12 @@
 #include <iostream>
 
-#include "faces/headless/scripted_game.h"
+#include "faces/headless/stream_game.h"
 
 int main() {
   std::ios::sync_with_stdio(false);
   std::cin.tie(nullptr);
-  zelvo::ScriptedGame game(std::cin, std::cout);
+  zelvo::StreamGame game(std::cin, std::cout);
   game.Run();
+  std::cout.flush();
   return 0;
 }

@@ -1,7 +1,6 @@
 #include "faces/headless/scripted_game.h"
 
 #include <array>
-#include <cstdio>
 #include <utility>
 
 #include "faces/headless/json_text.h"
@@ -11,8 +10,6 @@
 
 namespace zelvo {
 namespace {
-
-constexpr std::size_t longestLine = 65'536;
 
 std::string_view WithoutBlanks(std::string_view text) {
   const auto isBlank = [](char c) { return c == ' ' || c == '\t' || c == '\r'; };
@@ -58,26 +55,34 @@ std::string FindProperty(Game& game, std::string_view path, PropertyPath& found)
   return found.window->IsLoaded() ? "" : "the window is not loaded";
 }
 
+/// A number with zeros before it.
+std::string Digits(std::int64_t number, std::size_t digits) {
+  const std::string plain = std::to_string(number);
+  return std::string(digits - plain.size(), '0') + plain;
+}
+
+/// As in "12:00:03.502".
+std::string ClockText(std::int64_t millisecondOfDay) {
+  return Digits(millisecondOfDay / 3'600'000, 2) + ':' + Digits(millisecondOfDay / 60'000 % 60, 2) +
+         ':' + Digits(millisecondOfDay / 1000 % 60, 2) + '.' + Digits(millisecondOfDay % 1000, 3);
+}
+
 std::string_view NameOf(WindowState state) {
   return state == WindowState::Shown ? "shown" : "hidden";
 }
 
 }  // namespace
 
-ScriptedGame::ScriptedGame(std::istream& commands, std::ostream& lines)
-    : commands_(commands), lines_(lines) {}
-
 void ScriptedGame::Run() {
   game_.Start();
   while (!game_.HasEnded()) WaitForPlayer();
-  lines_.flush();
 }
 
 // --- The platform
 
 bool ScriptedGame::DeliverHeldInput() {
   if (held_.empty()) return false;
-  for (const Deed& deed : std::exchange(held_, {})) Do(deed);
+  for (const Deed& deed : std::exchange(held_, {})) Deliver(game_, deed);
   return true;
 }
 
@@ -110,9 +115,7 @@ void ScriptedGame::WaitForPlayer() {
   std::string line;
   std::string_view command;
   do {
-    // A program at the other end waits for its line before it writes the next command.
-    if (commands_.rdbuf()->in_avail() <= 0) lines_.flush();
-    if (!ReadLine(line)) {
+    if (!NextCommand(line)) {
       leaving_ = true;
       game_.End();
       return;
@@ -120,21 +123,9 @@ void ScriptedGame::WaitForPlayer() {
     command = WithoutBlanks(line);
   } while (command.empty() || command.front() == '#');
   reply_.clear();
-  const std::string error = line.size() > longestLine ? "the line is too long" : Execute(command);
+  const std::string error =
+      line.size() > longestCommand ? "the line is too long" : Execute(command);
   if (!error.empty()) reply_ = ",\"error\":" + Quoted(error);
-}
-
-/// Reads a line; of one that is too long just enough to tell. False at the end of the input.
-bool ScriptedGame::ReadLine(std::string& line) {
-  constexpr int endOfInput = std::char_traits<char>::eof();
-  line.clear();
-  std::streambuf& input = *commands_.rdbuf();
-  int c = input.sbumpc();
-  if (c == endOfInput) return false;
-  for (; c != endOfInput && c != '\n'; c = input.sbumpc()) {
-    if (line.size() <= longestLine) line += static_cast<char>(c);
-  }
-  return true;
 }
 
 std::string ScriptedGame::Waiting() {
@@ -144,17 +135,9 @@ std::string ScriptedGame::Waiting() {
 }
 
 void ScriptedGame::PrintLine(std::string_view waiting) {
-  const std::int64_t now = time().MillisecondOfDay();
-  std::array<char, 32> clock{};
-  const int hour = static_cast<int>(now / 3'600'000);
-  const int minute = static_cast<int>(now / 60'000 % 60);
-  const int second = static_cast<int>(now / 1000 % 60);
-  const int millisecond = static_cast<int>(now % 1000);
-  std::snprintf(clock.data(), clock.size(), "%02d:%02d:%02d.%03d", hour, minute, second,
-                millisecond);
   std::string line;
   line.append("{\"waiting\":").append(Quoted(waiting));
-  line.append(",\"time\":\"").append(clock.data()).append("\"");
+  line.append(",\"time\":\"").append(ClockText(time().MillisecondOfDay())).append("\"");
   if (!cues_.empty()) line.append(",\"cues\":[").append(std::exchange(cues_, {})).append("]");
   if (!messages_.empty() && waiting != "ended") {
     const OpenMessage& message = *messages_.back();
@@ -163,8 +146,8 @@ void ScriptedGame::PrintLine(std::string_view waiting) {
     line.append(",\"style\":").append(std::to_string(static_cast<int>(message.style)));
     line += '}';
   }
-  line.append(std::exchange(reply_, {})).append("}\n");
-  lines_ << line;
+  line.append(std::exchange(reply_, {})).append("}");
+  Print(line);
 }
 
 std::string ScriptedGame::Execute(std::string_view line) {
@@ -191,71 +174,20 @@ std::string ScriptedGame::Execute(std::string_view line) {
 
 // --- Commands
 
-std::optional<ScriptedGame::Deed> ScriptedGame::ParseDeed(std::string_view verb,
-                                                          std::string_view rest,
-                                                          std::string& error) {
-  Deed deed{Deed::Kind::Click, nullptr, nullptr};
-  if (verb == "hover") {
-    deed.kind = Deed::Kind::Hover;
-  } else if (verb == "close") {
-    deed.kind = Deed::Kind::Close;
-  } else if (verb != "click") {
-    error = NoSuch("command", verb);
-    return std::nullopt;
-  }
-  const auto point = rest.find('.');
-  const std::string_view windowName = rest.substr(0, point);
-  deed.window = game_.FindWindow(windowName);
-  if (deed.window == nullptr) {
-    error = NoSuch("window", windowName);
-  } else if (point != std::string_view::npos) {
-    deed.control = deed.window->Find(rest.substr(point + 1));
-    if (deed.control == nullptr) error = NoSuch("control", rest);
-  }
-  if (!error.empty()) return std::nullopt;
-
-  const bool onControl = deed.control != nullptr;
-  if (deed.kind == Deed::Kind::Click && !onControl) error = "a click needs a control";
-  if (deed.kind == Deed::Kind::Close && onControl) error = "only a window can be closed";
-  if (deed.kind == Deed::Kind::Close && !onControl && !deed.window->HasCloseBox()) {
-    error = "the window has no close box";
-  }
-  if (onControl && deed.control->kind() == Kind::Timer) {
-    error = "a timer takes no click and no mouse move";
-  }
-  if (!error.empty()) return std::nullopt;
-  return deed;
-}
-
-std::string ScriptedGame::WhyNot(const Deed& deed) {
-  return std::string(deed.control != nullptr ? game_.WhyNoInput(*deed.control)
-                                             : game_.WhyNoInput(*deed.window));
-}
-
-void ScriptedGame::Do(const Deed& deed) {
-  switch (deed.kind) {
-    case Deed::Kind::Click:
-      game_.Click(*deed.control);
-      break;
-    case Deed::Kind::Hover:
-      if (deed.control != nullptr) {
-        game_.Hover(*deed.control);
-      } else {
-        game_.Hover(*deed.window);
-      }
-      break;
-    case Deed::Kind::Close:
-      game_.Close(*deed.window);
-      break;
-  }
+std::optional<Deed> ScriptedGame::ReadCommand(std::string_view verb, std::string_view rest,
+                                              std::string& error) {
+  auto deed = ReadDeed(game_, verb, rest, error);
+  if (!deed || deed->control != nullptr || deed->kind != Deed::Kind::Click) return deed;
+  error = "a click needs a control";
+  return std::nullopt;
 }
 
 std::string ScriptedGame::ExecuteDeed(std::string_view verb, std::string_view rest) {
   std::string error;
-  const auto deed = ParseDeed(verb, rest, error);
+  const auto deed = ReadCommand(verb, rest, error);
   if (!deed) return error;
-  error = WhyNot(*deed);
-  if (error.empty()) Do(*deed);
+  error = WhyNot(game_, *deed);
+  if (error.empty()) Deliver(game_, *deed);
   return error;
 }
 
@@ -265,7 +197,7 @@ std::string ScriptedGame::ExecuteLater(std::string_view rest) {
     return "only a click, a hover or a close can come later";
   }
   std::string error;
-  if (const auto deed = ParseDeed(verb, rest, error)) held_.push_back(*deed);
+  if (const auto deed = ReadCommand(verb, rest, error)) held_.push_back(*deed);
   return error;
 }
 

@@ -1,24 +1,21 @@
 #pragma once
 
-#include <istream>
 #include <optional>
-#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "faces/deed.h"
 #include "faces/headless/virtual_platform.h"
 #include "game/game.h"
 
 namespace zelvo {
 
-/// Plays the real game without a screen: the player is a stream of commands, one a line, and each
-/// time the game comes to wait for the player it prints a line of JSON. Time is virtual, so the
-/// same script gives the same lines everywhere.
+/// Plays the real game by commands: each time it comes to wait for the player it gives a line of
+/// JSON and asks for the next command. Time is virtual, so the same commands give the same lines
+/// everywhere. Where they come from and go to is left open.
 class ScriptedGame : public VirtualPlatform {
  public:
-  ScriptedGame(std::istream& commands, std::ostream& lines);
-
   /// Starts the program and plays to the end of the script or of the program.
   void Run();
 
@@ -28,6 +25,15 @@ class ScriptedGame : public VirtualPlatform {
   bool PlaySound(const std::string& path, bool waits) override;
   void End() override;
 
+ protected:
+  /// The next command, a line without its end; false when there are no more. Of a line that is
+  /// longer than `longestCommand` a part that is longer as well will do.
+  virtual bool NextCommand(std::string& command) = 0;
+  /// Takes a line of the answer, without its end.
+  virtual void Print(const std::string& line) = 0;
+
+  static constexpr std::size_t longestCommand = 65'536;
+
  private:
   struct OpenMessage {
     std::string text;
@@ -36,18 +42,10 @@ class ScriptedGame : public VirtualPlatform {
     std::optional<Answer> answer;
   };
 
-  /// Something that the player does to a control or a window.
-  struct Deed {
-    enum class Kind : unsigned char { Click, Hover, Close } kind;
-    Control* control;  // null for a window
-    Window* window;
-  };
-
   void WaitForPlayer() override;
   bool DeliverHeldInput() override;
   Surface& surface() override { return game_; }
 
-  bool ReadLine(std::string& line);
   void PrintLine(std::string_view waiting);
   std::string Waiting();
 
@@ -64,13 +62,9 @@ class ScriptedGame : public VirtualPlatform {
   std::string ExecuteQuit(std::string_view rest);
 
   /// Reads a click, hover or close; `error` says why it is none.
-  std::optional<Deed> ParseDeed(std::string_view verb, std::string_view rest, std::string& error);
-  std::string WhyNot(const Deed& deed);
-  void Do(const Deed& deed);
+  std::optional<Deed> ReadCommand(std::string_view verb, std::string_view rest, std::string& error);
   std::string StateAsJson();
 
-  std::istream& commands_;
-  std::ostream& lines_;
   std::vector<Deed> held_;              // for the next yield
   std::vector<OpenMessage*> messages_;  // innermost last
   std::string cues_;                    // JSON objects of the cues since the last line

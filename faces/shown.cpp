@@ -1,0 +1,16 @@
+#include "faces/shown.h"
+
+namespace zelvo {
+
+Shown Shown::Of(const Control& control) {
+  return {control.Caption,   control.Text,    control.Picture,
+          control.Enabled(), control.Value(), control.VisibleInWindow()};
+}
+
+bool Shown::Shows(const Control& control) const {
+  return visible == control.VisibleInWindow() && picture == control.Picture &&
+         enabled == control.Enabled() && value == control.Value() && caption == control.Caption &&
+         text == control.Text;
+}
+
+}  // namespace zelvo

@@ -15,6 +15,7 @@ constexpr int boardSize = columnLeft.back() + lotSize;
 struct Strip {
   std::string_view text;
   Box box;
+  std::string_view words = {};
 };
 
 // A street goes from Park Place to Madison Place; its ends beyond them bear no name.
@@ -23,11 +24,11 @@ constexpr int madisonPlace = columnLeft[8] + lotSize;
 constexpr int eastLots = columnLeft[9];
 
 constexpr std::array<Strip, 13> streets = {{
-    {"5th Ave", {0, 5160, boardSize, 120}},
-    {"4th Ave", {parkPlace, 4080, madisonPlace - parkPlace, 120}},
-    {"3 rd Ave", {parkPlace, 2880, madisonPlace - parkPlace, 240}},
-    {"2 nd Ave", {parkPlace, 1680, madisonPlace - parkPlace, 240}},
-    {"1st Ave", {parkPlace, 480, madisonPlace - parkPlace, 240}},
+    {"5th Ave", {0, 5160, boardSize, 120}, "5th Avenue"},
+    {"4th Ave", {parkPlace, 4080, madisonPlace - parkPlace, 120}, "4th Avenue"},
+    {"3 rd Ave", {parkPlace, 2880, madisonPlace - parkPlace, 240}, "3rd Avenue"},
+    {"2 nd Ave", {parkPlace, 1680, madisonPlace - parkPlace, 240}, "2nd Avenue"},
+    {"1st Ave", {parkPlace, 480, madisonPlace - parkPlace, 240}, "1st Avenue"},
     {"", {0, 480, lotSize, 240}},
     {"", {eastLots, 480, lotSize, 240}},
     {"", {0, 1680, lotSize, 240}},
@@ -41,10 +42,26 @@ constexpr std::array<Strip, 13> streets = {{
 constexpr std::array<Color, 6> lights = {0xd22f2f, 0xf08fb0, 0x8cc8f0,
                                          0x3fa34d, 0xf2cf3a, looks::bankTeal};
 
+constexpr Group boardGroup = {"Board", true};
+constexpr Group streetGroup = {"Streets"};
+constexpr std::array<Group, 2> ledgerGroups = {{{"Player"}, {"Computer"}}};
+constexpr Group newsGroup = {"News"};
+constexpr Group actionGroup = {"Actions"};
+constexpr Group classGroup = {"Buildings", true};
+constexpr Group bankGroup = {"First National Bank"};
+
+constexpr int boardLevel = -2;
+constexpr int afterBoard = -1;
+
 }  // namespace
 
 GFMWindow::GFMWindow(Surface& surface)
-    : Window(surface, {"GFM", "Game Board", 9504, 6756, TitleBar::Sizable}) {
+    : Window(surface, {.name = "GFM",
+                       .title = "Game Board",
+                       .width = 9504,
+                       .height = 6756,
+                       .titleBar = TitleBar::Sizable,
+                       .label = "Game board"}) {
   PlaceBoard();
   PlaceLedgers();
   PlaceActions();
@@ -57,18 +74,30 @@ void GFMWindow::PlaceBoard() {
         {.look = {.ground = looks::asphalt, .border = Border::Raised}});
   for (int i = 0; i < 13; ++i) {
     Place(Label7[i], Kind::Label, "Label7", streets[i].box,
-          {.caption = streets[i].text, .look = looks::street}, &Panel3D1, i);
+          {.caption = streets[i].text,
+           .look = looks::street,
+           .words = streets[i].words,
+           .group = &streetGroup},
+          &Panel3D1, i);
   }
-  Place(Label6[0], Kind::Label, "Label6", {madisonPlace, 0, eastLots - madisonPlace, boardSize},
-        {.caption = "M A D I S  O N    P L A C E", .look = looks::avenue}, &Panel3D1, 0);
-  Place(Label6[2], Kind::Label, "Label6", {2880, 0, 240, boardSize},
-        {.caption = "B  R O A D W A Y", .look = looks::avenue}, &Panel3D1, 2);
-  Place(Label6[4], Kind::Label, "Label6", {lotSize, 0, parkPlace - lotSize, boardSize},
-        {.caption = "P A R  K      P L A C E", .look = looks::avenue}, &Panel3D1, 4);
+  const auto avenue = [this](int number, Box box, std::string_view text, std::string_view words) {
+    Place(Label6[number], Kind::Label, "Label6", box,
+          {.caption = text, .look = looks::avenue, .words = words, .group = &streetGroup},
+          &Panel3D1, number);
+  };
+  avenue(0, {madisonPlace, 0, eastLots - madisonPlace, boardSize}, "M A D I S  O N    P L A C E",
+         "Madison Place");
+  avenue(2, {2880, 0, 240, boardSize}, "B  R O A D W A Y", "Broadway");
+  avenue(4, {lotSize, 0, parkPlace - lotSize, boardSize}, "P A R  K      P L A C E", "Park Place");
   for (int lot = 0; lot < lotCount; ++lot) {
     Place(Image1[lot], Kind::Image, "Image1",
           {columnLeft[lot % boardWidth], rowTop[lot / boardWidth], lotSize, lotSize},
-          {.look = {.border = Border::Line}, .label = "Lot"}, &Panel3D1, lot);
+          {.look = {.border = Border::Line},
+           .label = "Lot",
+           .numbered = true,
+           .group = &boardGroup,
+           .tabLevel = boardLevel},
+          &Panel3D1, lot);
   }
 }
 
@@ -79,14 +108,18 @@ void GFMWindow::PlaceLedgers() {
   const auto ledger = [this](int top, int side, Color colour, Control& emblem, Control& heading,
                              Control& up, Control& credit, Control& worth, Control& owned) {
     const bool player = side == 0;
+    const Group* group = &ledgerGroups[side];
     constexpr int nameWidth = 1500;
     constexpr int amountLeft = 90 + nameWidth;
     constexpr int amountWidth = 1914;
     Place(heading, Kind::Label, player ? "Label2" : "Label3", {90, top, 3414, 300},
-          {.caption = player ? "Player" : "Computer", .look = Heading(colour, Align::Center)},
+          {.caption = player ? "Player" : "Computer",
+           .look = Heading(colour, Align::Center),
+           .group = group},
           &Panel3D2);
     Place(emblem, Kind::Image, player ? "Image2" : "Image3", {120, top + 15, 270, 270},
-          {.picture = player ? PictureId::GFM_Image2 : PictureId::GFM_Image3}, &Panel3D2);
+          {.picture = player ? PictureId::GFM_Image2 : PictureId::GFM_Image3, .group = group},
+          &Panel3D2);
     Place(up, Kind::Label, player ? "PUP" : "CUP", {2960, top + 40, 480, 220},
           {.caption = "UP",
            .visible = false,
@@ -94,26 +127,39 @@ void GFMWindow::PlaceLedgers() {
                     .ground = 0xf2cf3a,
                     .letterHeight = 170,
                     .bold = true,
-                    .align = Align::Center}},
+                    .align = Align::Center},
+           .words = player ? "Player's turn" : "Computer's turn",
+           .group = group},
           &Panel3D2);
     Place(Label4[side], Kind::Label, "Label4", {90, top + 310, nameWidth, 245},
-          {.caption = "Credit  $", .look = AmountName(colour)}, &Panel3D2, side);
+          {.caption = "Credit  $", .look = AmountName(colour), .group = group}, &Panel3D2, side);
     Place(credit, Kind::Label, player ? "PCredit" : "CCredit",
           {amountLeft, top + 310, amountWidth, 245},
-          {.look = amount, .label = player ? "Player's credit" : "Computer's credit"}, &Panel3D2);
+          {.look = amount,
+           .label = player ? "Player's credit" : "Computer's credit",
+           .group = group,
+           .speech = Speech::Standing},
+          &Panel3D2);
     Place(Label5[side], Kind::Label, "Label5", {90, top + 565, nameWidth, 245},
-          {.caption = "Net Worth $", .look = AmountName(colour)}, &Panel3D2, side);
+          {.caption = "Net Worth $", .look = AmountName(colour), .group = group}, &Panel3D2, side);
     Place(worth, Kind::Label, player ? "PNW" : "CNW", {amountLeft, top + 565, amountWidth, 245},
-          {.look = amount, .label = player ? "Player's net worth" : "Computer's net worth"},
+          {.look = amount,
+           .label = player ? "Player's net worth" : "Computer's net worth",
+           .group = group,
+           .speech = Speech::Standing},
           &Panel3D2);
     // The player's line is the one numbered 1.
     const int line = 1 - side;
     Place(NHLabel[line], Kind::Label, "NHLabel", {90, top + 820, 2714, 245},
           {.caption = player ? "Number of properties owned " : "Number of properties owned  ",
-           .look = AmountName(colour)},
+           .look = AmountName(colour),
+           .group = group},
           &Panel3D2, line);
     Place(owned, Kind::Label, player ? "PNOH" : "CNOH", {2804, top + 820, 700, 245},
-          {.look = amount, .label = player ? "Player's properties" : "Computer's properties"},
+          {.look = amount,
+           .label = player ? "Player's properties" : "Computer's properties",
+           .group = group,
+           .speech = Speech::Standing},
           &Panel3D2);
   };
   ledger(80, 0, playerBlue, Image2, Label2, PUP, PCredit, PNW, PNOH);
@@ -121,7 +167,8 @@ void GFMWindow::PlaceLedgers() {
 
   Place(LSHOW, Kind::Label, "LSHOW", {90, 2320, 3414, 290},
         {.look = {.ink = white, .ground = night, .letterHeight = 190, .align = Align::Center},
-         .label = "News"},
+         .group = &newsGroup,
+         .speech = Speech::News},
         &Panel3D2);
   int left = 90;
   for (int light = 1; light <= 6; ++light) {
@@ -131,63 +178,90 @@ void GFMWindow::PlaceLedgers() {
     left += width;
   }
   Place(Panel3D3, Kind::Panel, "Panel3D3", {90, 2740, 3414, 1400}, {.look = panel}, &Panel3D2);
-  Place(PSHOW, Kind::Label, "PSHOW", {45, 45, 3324, 1310},
-        {.look = {.ground = cream, .letterHeight = 190}, .label = "Message"}, &Panel3D3);
+  Place(
+      PSHOW, Kind::Label, "PSHOW", {45, 45, 3324, 1310},
+      {.look = {.ground = cream, .letterHeight = 190}, .group = &newsGroup, .speech = Speech::News},
+      &Panel3D3);
 }
 
 void GFMWindow::PlaceActions() {
   struct Icon {
     Control& control;
     std::string_view name;
+    std::string_view words;
     PictureId picture;
     int left;
     int top;
   };
   const std::array<Icon, 7> icons = {{
-      {SUPER, "SUPER", PictureId::GFM_SUPER, 360, 4200},
-      {THRIFTY, "THRIFTY", PictureId::GFM_THRIFTY, 840, 4200},
-      {QUALITY, "QUALITY", PictureId::GFM_QUALITY, 1320, 4200},
-      {BEST, "BEST", PictureId::GFM_BEST, 1800, 4200},
-      {RAMADA, "RAMADA", PictureId::GFM_RAMADA, 2280, 4200},
-      {HILTON, "HILTON", PictureId::GFM_HILTON, 2760, 4200},
-      {Rest, "Rest", PictureId::GFM_Rest, 360, 4680},
+      {SUPER, "SUPER", "Super Saver", PictureId::GFM_SUPER, 360, 4200},
+      {THRIFTY, "THRIFTY", "Thrifty Inn", PictureId::GFM_THRIFTY, 840, 4200},
+      {QUALITY, "QUALITY", "Quality Inn", PictureId::GFM_QUALITY, 1320, 4200},
+      {BEST, "BEST", "Best Western", PictureId::GFM_BEST, 1800, 4200},
+      {RAMADA, "RAMADA", "Ramada Inn", PictureId::GFM_RAMADA, 2280, 4200},
+      {HILTON, "HILTON", "Hilton", PictureId::GFM_HILTON, 2760, 4200},
+      {Rest, "Rest", "Restaurant", PictureId::GFM_Rest, 360, 4680},
   }};
   for (const Icon& icon : icons) {
     Place(icon.control, Kind::Image, icon.name, {icon.left, icon.top, 480, 480},
-          {.tag = "0", .picture = icon.picture, .look = {.border = Border::Line}}, &Panel3D2);
+          {.tag = "0",
+           .picture = icon.picture,
+           .look = {.border = Border::Line},
+           .words = icon.words,
+           .group = &classGroup},
+          &Panel3D2);
   }
   const auto action = [this](Control& control, std::string_view name, Box box,
-                             std::string_view caption) {
+                             std::string_view caption, int level) {
     Place(control, Kind::Button, name, box,
-          {.caption = caption, .visible = false, .look = looks::button}, &Panel3D2);
+          {.caption = caption,
+           .visible = false,
+           .look = looks::button,
+           .group = &actionGroup,
+           .tabLevel = level},
+          &Panel3D2);
   };
-  action(BUILDIT, "BUILDIT", {920, 4725, 2320, 400}, "Go ahead, Build it");
-  action(CMDBUY, "CMDBUY", {120, 5210, 1650, 410}, "Buy Property");
-  action(CMDBUILD, "CMDBUILD", {1824, 5210, 1650, 410}, "Select Building");
-  action(CMDSELL, "CMDSELL", {120, 5650, 1650, 410}, "Sell Property");
-  action(CMDSHOT, "CMDSHOT", {1824, 5650, 1650, 410}, "Sell Building");
+  // From a lot the keyboard comes to what can be done with it; from "Select Building" by the icons
+  // to "Go ahead".
+  action(BUILDIT, "BUILDIT", {920, 4725, 2320, 400}, "Go ahead, Build it", 0);
+  action(CMDBUY, "CMDBUY", {120, 5210, 1650, 410}, "Buy Property", afterBoard);
+  action(CMDBUILD, "CMDBUILD", {1824, 5210, 1650, 410}, "Select Building", afterBoard);
+  action(CMDSELL, "CMDSELL", {120, 5650, 1650, 410}, "Sell Property", afterBoard);
+  action(CMDSHOT, "CMDSHOT", {1824, 5650, 1650, 410}, "Sell Building", afterBoard);
   Place(CMDGO, Kind::Button, "CMDGO", {360, 6110, 2880, 530},
-        {.picture = PictureId::GFM_CMDGO, .label = "End of turn"}, &Panel3D2);
+        {.picture = PictureId::GFM_CMDGO, .words = "End of turn", .key = Key::CtrlEnter},
+        &Panel3D2);
 }
 
 void GFMWindow::PlaceBottomStrip() {
   using namespace looks;
   Place(Panel3D4, Kind::Panel, "Panel3D4", {50, 5850, 5805, 876}, {.look = panel});
   Place(Label1, Kind::Label, "Label1", {80, 70, 2250, 370},
-        {.look = {.ink = playerBlue, .letterHeight = 200, .bold = true}}, &Panel3D4);
+        {.look = {.ink = playerBlue, .letterHeight = 200, .bold = true}, .label = "Skill level"},
+        &Panel3D4);
   Place(Label10, Kind::Label, "Label10", {80, 450, 2250, 330},
         {.caption = "Level", .look = {.letterHeight = 190}}, &Panel3D4);
   Place(Label8, Kind::Label, "Label8", {2360, 70, 2080, 360},
-        {.caption = "First National Bank", .look = Heading(bankTeal, Align::Center)}, &Panel3D4);
+        {.caption = "First National Bank",
+         .look = Heading(bankTeal, Align::Center),
+         .group = &bankGroup},
+        &Panel3D4);
   Place(Label9, Kind::Label, "Label9", {2360, 450, 980, 340},
-        {.caption = "Net Worth $", .look = {.ink = white, .ground = bankTeal, .letterHeight = 130}},
+        {.caption = "Net Worth $",
+         .look = {.ink = white, .ground = bankTeal, .letterHeight = 130},
+         .group = &bankGroup},
         &Panel3D4);
   Place(BANKLABEL, Kind::Label, "BANKLABEL", {3340, 450, 1100, 340},
-        {.caption = "$", .look = amount, .label = "Bank's net worth"}, &Panel3D4);
+        {.caption = "$",
+         .look = amount,
+         .label = "Bank's net worth",
+         .group = &bankGroup,
+         .speech = Speech::Standing},
+        &Panel3D4);
   Place(CMDHELP, Kind::Button, "CMDHELP", {4500, 80, 600, 710},
-        {.picture = PictureId::GFM_CMDHELP, .label = "Setup"}, &Panel3D4);
+        {.picture = PictureId::GFM_CMDHELP, .words = "Setup", .key = Key::F1}, &Panel3D4);
   Place(CMDEXIT, Kind::Button, "CMDEXIT", {5140, 80, 600, 710},
-        {.picture = PictureId::GFM_CMDEXIT, .label = "Exit"}, &Panel3D4);
+        {.picture = PictureId::GFM_CMDEXIT, .words = "Exit"}, &Panel3D4);
 }
 
 }  // namespace zelvo

@@ -39,6 +39,29 @@ struct Look {
   bool vertical = false;  ///< the text runs from bottom to top
 };
 
+/// A key that presses a control, wherever in its window the keyboard is.
+enum class Key : unsigned char {
+  None,
+  Escape,  ///< the way out of a dialog; one in which the game wants an answer has none
+  F1,
+  CtrlEnter,
+};
+
+/// When those who do not see a control hear what it shows, besides when they go to it.
+enum class Speech : unsigned char {
+  WhenReached,
+  News,      ///< whenever it changes
+  Standing,  ///< when they ask how the game stands
+};
+
+/// Controls of a window that belong together, wherever they lie.
+struct Group {
+  std::string_view name;
+  /// Tab stops at the group once and arrow keys walk its controls; else they are told as one
+  /// thing, but each is reached on its own.
+  bool walked = false;
+};
+
 class Control;
 
 /// The handlers of a control's events, from the table of events; null where there is none.
@@ -62,8 +85,15 @@ struct ControlDesign {
   int interval = 0;  ///< milliseconds
   PictureId picture = PictureId::None;
   Look look = {};
-  /// What the control is, for those who do not see it; empty where its caption says it.
+  /// What the control is, told ahead of what it shows, as in "Player's credit".
   std::string_view label = {};
+  /// What it shows, where neither its caption nor its picture says it in words.
+  std::string_view words = {};
+  bool numbered = false;  ///< its index is told with its label
+  const Group* group = nullptr;
+  int tabLevel = 0;  ///< Tab goes through the lower levels first, through one as it was placed
+  Speech speech = Speech::WhenReached;
+  Key key = Key::None;
 };
 
 /// One control of a window, of any kind; a kind uses the properties that it has and leaves the

@@ -24,6 +24,8 @@ struct WindowDesign {
   int height = 0;  ///< of the client area, twips
   TitleBar titleBar = TitleBar::NoButtons;
   Color ground = 0xd7d9dc;
+  /// What the window is, for those who do not see it; empty where its title says it.
+  std::string_view label = {};
 };
 
 /// The functions that a window raises in its life, from the table of events; null where there is

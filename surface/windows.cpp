@@ -6,6 +6,15 @@ namespace zelvo {
 
 using namespace looks;
 
+namespace {
+
+constexpr Group legendGroup = {"Legend", true};
+constexpr Group levelGroup = {"Skill level", true};
+constexpr Group loanGroup = {"Loan", true};
+constexpr Group cardGroup = {"Chance cards", true};
+
+}  // namespace
+
 GSTWindow::GSTWindow(Surface& surface)
     : Window(surface, {"GST", "Zelvo 32", 9504, 6756, TitleBar::Sizable, night}) {
   Place(Panel3D1, Kind::Panel, "Panel3D1", {200, 180, 9104, 6396}, {.look = panel});
@@ -20,8 +29,8 @@ GSTWindow::GSTWindow(Surface& surface)
   constexpr Look large = {.letterHeight = 260, .bold = true, .align = Align::Center};
   Place(CMDSTART, Kind::Button, "CMDSTART", {250, 300, 2300, 800},
         {.caption = "Start Game", .look = large}, &Panel3D2);
-  Place(CMDSET, Kind::Button, "CMDSET", {2700, 300, 1450, 800}, {.caption = "Setup", .look = large},
-        &Panel3D2);
+  Place(CMDSET, Kind::Button, "CMDSET", {2700, 300, 1450, 800},
+        {.caption = "Setup", .look = large, .key = Key::F1}, &Panel3D2);
   Place(CMDEXIT, Kind::Button, "CMDEXIT", {4300, 300, 1450, 800},
         {.caption = "Exit", .look = large}, &Panel3D2);
 }
@@ -66,12 +75,16 @@ ICFWindow::ICFWindow(Surface& surface)
   for (int i = 0; i < static_cast<int>(icons.size()); ++i) {
     const Box box = {110 + 525 * (i % 8), 120 + 590 * (i / 8), 480, 480};
     Place(icons[i].control, Kind::Image, icons[i].name, box,
-          {.tag = icons[i].tag, .picture = icons[i].picture, .look = {.border = Border::Line}},
+          {.tag = icons[i].tag,
+           .picture = icons[i].picture,
+           .look = {.border = Border::Line},
+           .group = &legendGroup},
           &Panel3D1);
   }
   Place(Label1, Kind::Label, "Label1", {110, 1920, 4155, 920},
         {.caption = "Move mouse over Icons",
-         .look = {.ink = white, .ground = night, .letterHeight = 230, .align = Align::Center}},
+         .look = {.ink = white, .ground = night, .letterHeight = 230, .align = Align::Center},
+         .speech = Speech::News},
         &Panel3D1);
 
   constexpr std::array<std::string_view, 4> levels = {"Skill Level Easy", "Skill Level Normal",
@@ -79,8 +92,10 @@ ICFWindow::ICFWindow(Surface& surface)
   constexpr std::array<std::string_view, 4> tips = {"Easy to win", "Normal Chances",
                                                     "Better be Smart", "Better be Smart"};
   for (int i = 0; i < 4; ++i) {
-    Place(OPT1[i], Kind::Option, "OPT1", {110, 110 + 340 * i, 2150, 320},
-          {.caption = levels[i], .tag = tips[i], .value = i == 0, .look = text}, &Panel3D2, i);
+    Place(
+        OPT1[i], Kind::Option, "OPT1", {110, 110 + 340 * i, 2150, 320},
+        {.caption = levels[i], .tag = tips[i], .value = i == 0, .look = text, .group = &levelGroup},
+        &Panel3D2, i);
   }
   Place(CKCHANCE, Kind::CheckBox, "CKCHANCE", {110, 1560, 2200, 320},
         {.caption = "Use Chance cards", .value = true, .look = text}, &Panel3D2);
@@ -93,15 +108,16 @@ ICFWindow::ICFWindow(Surface& surface)
   Place(CMDABOUT, Kind::Button, "CMDABOUT", {2260, 1320, 2010, 540},
         {.caption = "About Box", .look = button}, &Panel3D2);
   Place(cmdexit, Kind::Button, "cmdexit", {2260, 2300, 2010, 540},
-        {.caption = "Exit Setup", .look = button}, &Panel3D2);
+        {.caption = "Exit Setup", .look = button, .key = Key::Escape}, &Panel3D2);
 }
 
 TTWindow::TTWindow(Surface& surface)
-    : Window(surface, {"TT", "", 4788, 2640, TitleBar::NoButtons, cream}) {
+    : Window(surface, {"TT", "", 4788, 2640, TitleBar::NoButtons, cream, "Assessment and taxes"}) {
   Place(Image1, Kind::Image, "Image1", {180, 240, 960, 960});
   Place(Label1, Kind::Label, "Label1", {1260, 240, 3380, 420},
-        {.look = {.ink = computerRed, .letterHeight = 320, .bold = true}});
-  Place(Label2, Kind::Label, "Label2", {1260, 720, 3380, 900}, {.look = text});
+        {.look = {.ink = computerRed, .letterHeight = 320, .bold = true}, .speech = Speech::News});
+  Place(Label2, Kind::Label, "Label2", {1260, 720, 3380, 900},
+        {.look = text, .speech = Speech::News});
   Place(XSHOW, Kind::Panel, "XSHOW", {1794, 1800, 1200, 600},
         {.look = {.ground = face,
                   .letterHeight = 320,
@@ -121,7 +137,7 @@ WINXWindow::WINXWindow(Surface& surface)
   Place(Label3, Kind::Label, "Label3", {180, 1500, 4920, 560},
         {.caption = "LABEL 3", .look = plain});
   Place(CMDEXIT, Kind::Button, "CMDEXIT", {5280, 660, 1080, 1080},
-        {.picture = PictureId::WINX_CMDEXIT, .label = "Close"});
+        {.picture = PictureId::WINX_CMDEXIT, .words = "Close", .key = Key::Escape});
 }
 
 HHWindow::HHWindow(Surface& surface)
@@ -132,7 +148,7 @@ HHWindow::HHWindow(Surface& surface)
          .label = "Explanation of the game"},
         &Panel3D1);
   Place(CMDEXIT, Kind::Button, "CMDEXIT", {3270, 5820, 960, 800},
-        {.picture = PictureId::HH_CMDEXIT, .label = "Close"});
+        {.picture = PictureId::HH_CMDEXIT, .words = "Close", .key = Key::Escape});
 }
 
 HSWindow::HSWindow(Surface& surface)
@@ -155,14 +171,16 @@ HSWindow::HSWindow(Surface& surface)
   Place(CMDAN1[1], Kind::Button, "CMDAN1", {340, 3340, 2608, 480},
         {.caption = "No insurance", .look = button}, nullptr, 1);
   Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {340, 3890, 2608, 480},
-        {.caption = "Cancel Build", .look = button});
+        {.caption = "Cancel Build", .look = button, .key = Key::Escape});
 }
 
 SVWindow::SVWindow(Surface& surface)
     : Window(surface, {"SV", "Property Repairs", 3396, 2844, TitleBar::NoButtons}) {
   Place(Image1, Kind::Image, "Image1", {1374, 120, 648, 648}, {.picture = PictureId::SV_Image1});
-  Place(Label1, Kind::Label, "Label1", {120, 850, 3156, 1240}, {.look = message});
-  Place(CMDOK, Kind::Button, "CMDOK", {1098, 2220, 1200, 480}, {.caption = "OK", .look = button});
+  Place(Label1, Kind::Label, "Label1", {120, 850, 3156, 1240},
+        {.look = message, .speech = Speech::News});
+  Place(CMDOK, Kind::Button, "CMDOK", {1098, 2220, 1200, 480},
+        {.caption = "OK", .look = button, .key = Key::Escape});
 }
 
 RBWindow::RBWindow(Surface& surface)
@@ -170,7 +188,8 @@ RBWindow::RBWindow(Surface& surface)
   Place(Label1, Kind::Label, "Label1", {90, 80, 2748, 340},
         {.caption = "Zoning Board", .look = Heading(computerRed, Align::Center)});
   Place(MAN, Kind::Image, "MAN", {834, 480, 1260, 1260}, {.picture = PictureId::RB_MAN});
-  Place(Label2, Kind::Label, "Label2", {90, 1800, 2748, 1626}, {.look = message});
+  Place(Label2, Kind::Label, "Label2", {90, 1800, 2748, 1626},
+        {.look = message, .speech = Speech::News});
 }
 
 MLWindow::MLWindow(Surface& surface)
@@ -178,26 +197,31 @@ MLWindow::MLWindow(Surface& surface)
   Place(Label1, Kind::Label, "Label1", {90, 80, 3120, 340},
         {.caption = "Property zoned for a Mall", .look = Heading(bankTeal, Align::Center)});
   Place(Image1, Kind::Image, "Image1", {1220, 500, 860, 860});
-  Place(Label2, Kind::Label, "Label2", {90, 1440, 3120, 1560}, {.look = message});
+  Place(Label2, Kind::Label, "Label2", {90, 1440, 3120, 1560},
+        {.look = message, .speech = Speech::News});
   Place(CMD1[0], Kind::Button, "CMD1", {240, 3120, 1320, 480}, {.caption = "Yes", .look = button},
         nullptr, 0);
-  Place(CMD1[1], Kind::Button, "CMD1", {1740, 3120, 1320, 480}, {.caption = "No", .look = button},
-        nullptr, 1);
+  Place(CMD1[1], Kind::Button, "CMD1", {1740, 3120, 1320, 480},
+        {.caption = "No", .look = button, .key = Key::Escape}, nullptr, 1);
 }
 
 CHNWindow::CHNWindow(Surface& surface)
     : Window(surface, {"CHN", "Take a Chance", 7092, 3036, TitleBar::Fixed}) {
   Place(Label1, Kind::Label, "Label1", {90, 80, 6912, 380},
         {.caption = "Your turn has come to Click on a chance card",
-         .look = Heading(playerBlue, Align::Center)});
+         .look = Heading(playerBlue, Align::Center),
+         .speech = Speech::News});
+  constexpr std::array<std::string_view, 3> names = {"Chance card 1", "Chance card 2",
+                                                     "Chance card 3"};
   for (int card = 0; card < 3; ++card) {
     Place(Image1[card], Kind::Image, "Image1", {150 + 1320 * card, 560, 1200, 1680},
           {.picture = static_cast<PictureId>(static_cast<int>(PictureId::CHN_Image1_0) + card),
-           .label = "Chance card"},
+           .label = names[card],
+           .group = &cardGroup},
           nullptr, card);
   }
   Place(Label2, Kind::Label, "Label2", {4140, 560, 2820, 1680},
-        {.visible = false, .look = message});
+        {.visible = false, .look = message, .speech = Speech::News});
   Place(CMDOK, Kind::Button, "CMDOK", {4950, 2400, 1200, 480}, {.caption = "OK", .look = button});
 }
 
@@ -205,8 +229,11 @@ BKWindow::BKWindow(Surface& surface)
     : Window(surface, {"BK", "The Bank", 5328, 5040, TitleBar::NoButtons}) {
   Place(ImageN, Kind::Image, "ImageN", {150, 640, 2295, 2295}, {.look = {.border = Border::Line}});
   Place(Label1, Kind::Label, "Label1", {90, 80, 5148, 440},
-        {.caption = "I think we can arrange that", .look = Heading(bankTeal, Align::Center)});
-  Place(Label2, Kind::Label, "Label2", {150, 3120, 5028, 560}, {.look = message});
+        {.caption = "I think we can arrange that",
+         .look = Heading(bankTeal, Align::Center),
+         .speech = Speech::News});
+  Place(Label2, Kind::Label, "Label2", {150, 3120, 5028, 560},
+        {.look = message, .speech = Speech::News});
   for (int i = 0; i < 5; ++i) {
     // They feed the picture that is shown and lie outside the client area themselves.
     Place(Image1[i], Kind::Image, "Image1", {6000, 2400 * i, 2295, 2295},
@@ -218,12 +245,12 @@ BKWindow::BKWindow(Surface& surface)
                                                        "Borrow $500,000"};
   for (int i = 0; i < 5; ++i) {
     Place(OPT1[i], Kind::Option, "OPT1", {2700, 700 + 440 * i, 2450, 380},
-          {.caption = amounts[i], .look = {.letterHeight = 220}}, nullptr, i);
+          {.caption = amounts[i], .look = {.letterHeight = 220}, .group = &loanGroup}, nullptr, i);
   }
   Place(CMDOK, Kind::Button, "CMDOK", {500, 4000, 2044, 680},
         {.caption = "Accept Loan", .look = button});
   Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {2784, 4000, 2044, 680},
-        {.caption = "Cancel Loan", .look = button});
+        {.caption = "Cancel Loan", .look = button, .key = Key::Escape});
   Place(Timer1, Kind::Timer, "Timer1", {}, {.enabled = false, .interval = 500});
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <set>
 
+#include "surface/speech.h"
 #include "tests/position.h"
 
 namespace zelvo::test {
@@ -98,6 +99,50 @@ GFM.HILTON cd | GFM.Image1 cd | GFM.LITE h | GFM.Label1 c | GFM.Label8 c | GFM.P
 GFM.QUALITY cd | GFM.RAMADA cd | GFM.Rest cd | GFM.SUPER cd | GFM.THRIFTY cd)"));
   // Every picture of the program belongs to a control; None is the first.
   EXPECT_EQ(owned.size(), static_cast<std::size_t>(PictureId::Count));
+}
+
+TEST(Windows, CanBePlayedByKeyboardAndByEar) {
+  Machine machine;
+  std::set<std::string> waysOut;
+  for (Window* window : machine.game().Windows()) {
+    machine.game().Load(*window);
+    EXPECT_NE(SpokenName(*window), "") << window->name();
+    std::set<Key> taken;
+    for (const Control* control : window->controls()) {
+      const std::string name = std::string(window->name()) + "." + control->FullName();
+      const ControlDesign& design = control->design();
+      const bool clickable = control->handlers.click != nullptr;
+      EXPECT_TRUE(!clickable || !SpokenName(*control).empty() || name == "ABT.Label1") << name;
+      EXPECT_TRUE(design.speech == Speech::WhenReached || control->kind() == Kind::Label) << name;
+      if (design.key == Key::None) continue;
+      EXPECT_TRUE(clickable && taken.insert(design.key).second) << name;
+      if (design.key != Key::Escape) continue;
+      EXPECT_TRUE(!window->HasCloseBox()) << name;
+      waysOut.insert(SpokenName(*control));
+    }
+  }
+  EXPECT_EQ(std::vector(waysOut.begin(), waysOut.end()),
+            Pieces("Cancel Build | Cancel Loan | Close | Exit Setup | No | OK"));
+}
+
+TEST(Windows, AreToldInWords) {
+  Machine machine;
+  Game& game = machine.game();
+  game.GFM->Image1[37].Picture = PictureId::ICF_HILTON;
+  game.GFM->PCredit.Caption = "$1,000,000";
+  game.GFM->PSHOW.Caption = "Property #  37-O\n\rTaxes are  $5 ";
+  for (const auto& [control, name] : {std::pair{&game.GFM->Image1[37], "Lot 37, computer's Hilton"},
+                                      {&game.GFM->Label6[0], "Madison Place"},
+                                      {&game.GFM->Label7[2], "3rd Avenue"},
+                                      {&game.GFM->PCredit, "Player's credit, $1,000,000"},
+                                      {&game.GFM->PSHOW, "Property # 37-O Taxes are $5"},
+                                      {&game.GFM->QUALITY, "Quality Inn"},
+                                      {&game.GFM->CMDGO, "End of turn"},
+                                      {&game.ICF->GOLF, "golf course"},
+                                      {&game.CHN->Image1[0], "Chance card 1, face down"},
+                                      {&game.HS->Label1[4], ""}}) {
+    EXPECT_EQ(SpokenName(*control), name);
+  }
 }
 
 TEST(Windows, CaptionsThatAreEasilyMistyped) {

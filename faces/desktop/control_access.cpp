@@ -32,7 +32,6 @@ class ControlAccess : public QAccessibleWidget {
 
   QString text(QAccessible::Text kind) const override {
     if (kind == QAccessible::Name) return widget_.SpokenName();
-    if (kind == QAccessible::Description) return widget_.SpokenDescription();
     return QAccessibleWidget::text(kind);
   }
 

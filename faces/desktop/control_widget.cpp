@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "faces/desktop/window_view.h"
+#include "surface/speech.h"
 
 namespace zelvo {
 namespace {
@@ -22,10 +23,6 @@ constexpr int markGap = 90;    // twips
 
 bool HasMark(const Control& control) {
   return control.kind() == Kind::Option || control.kind() == Kind::CheckBox;
-}
-
-QString ToQString(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 }  // namespace
@@ -272,19 +269,7 @@ void ControlWidget::focusInEvent(QFocusEvent* event) {
 // What is said about it.
 
 QString ControlWidget::SpokenName() const {
-  const std::string_view label = control_.design().label;
-  if (label.empty()) {
-    const QString caption = ScreenText(control_.Caption).simplified();
-    return caption.isEmpty() ? ToQString(PictureMeaning(control_.Picture)) : caption;
-  }
-  QString name = ToQString(label);
-  if (control_.index() == Control::noIndex) return name;
-  return QStringLiteral("%1 %2").arg(name).arg(control_.index());
-}
-
-QString ControlWidget::SpokenDescription() const {
-  const QString caption = ScreenText(control_.Caption).simplified();
-  return caption.isEmpty() ? ToQString(PictureMeaning(control_.Picture)) : caption;
+  return QString::fromStdString(zelvo::SpokenName(control_));
 }
 
 }  // namespace zelvo

@@ -40,7 +40,6 @@ class ControlWidget : public QWidget {
 
   /// What a screen reader says.
   QString SpokenName() const;
-  QString SpokenDescription() const;
 
   /// The caption as it is drawn, and the room it has, for a look at whether it fits.
   const FittedText& Text();

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+#include "surface/window.h"
+
+/// What those hear who do not see the windows. Any face can speak it, or hand it to a helper that
+/// does.
+namespace zelvo {
+
+/// What a control is and what it shows now, as in "Lot 37, casino" or "Buy Property"; empty for one
+/// that shows nothing.
+std::string SpokenName(const Control& control);
+
+/// What a window is, its title as a rule.
+std::string SpokenName(const Window& window);
+
+}  // namespace zelvo

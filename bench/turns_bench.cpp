@@ -73,7 +73,7 @@ void BoardEvents(benchmark::State& state, const char* tag, Control ICFWindow::*i
   Game& g = player.game();
   StartGame(g);
   for (auto _ : state) {
-    for (int lot = 0; lot < lotCount; ++lot) SetLot(g, lot, g.ICF.operator->()->*icon, tag);
+    for (int lot = 0; lot < lotCount; ++lot) SetLot(g, lot, g.ICF->*icon, tag);
     BoardEvent(g);
   }
   state.SetItemsProcessed(state.iterations());

@@ -1,5 +1,6 @@
 #include "computer/computer_restaurant.h"
 
+#include "game/buildings.h"
 #include "game/lots.h"
 #include "game/money.h"
 #include "game/text.h"
@@ -43,7 +44,7 @@ void ComputerRestaurant(Game& g) {
       return;
     }
   }
-  SetLot(g, g.CurLot, g.ICF->CREST, "CDR");
+  SetLot(g, g.CurLot, g.ICF->CREST, computerTags[Restaurant]);
   AddToCount(g.ICF->CREST, 1);
   ++g.RestCount;
   // No spread: a restaurant of the computer moves no neighbour's value.

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "computer/computer_restaurant.h"
+#include "game/buildings.h"
 #include "game/lots.h"
 #include "game/money.h"
 #include "game/text.h"
@@ -18,18 +19,18 @@ namespace {
 struct ComputerClass {
   int multiple;  // of the lot's value
   Control ICFWindow::*icon;
-  std::string_view tag;
+  Building building;
   std::string_view news;
   bool reviewed;  // by the zoning board
 };
 
 constexpr std::array<ComputerClass, 6> dearestFirst = {{
-    {7, &ICFWindow::HILTON, "CHH", "Computer Purchased a Hilton on lot ", false},
-    {6, &ICFWindow::RAMADA, "CRH", "Computer Purchased a Ramada Inn on lot ", false},
-    {5, &ICFWindow::BEST, "CBH", "Computer Purchased a Best Western on lot ", false},
-    {4, &ICFWindow::QUALITY, "CQH", "Computer Purchased a Quality Inn on lot ", false},
-    {3, &ICFWindow::THRIFTY, "CTH", "Computer Purchased a Thrifty on lot ", true},
-    {2, &ICFWindow::SUPER, "CSH", "Computer Purchased a Super Saver on lot ", true},
+    {7, &ICFWindow::HILTON, Hilton, "Computer Purchased a Hilton on lot ", false},
+    {6, &ICFWindow::RAMADA, RamadaInn, "Computer Purchased a Ramada Inn on lot ", false},
+    {5, &ICFWindow::BEST, BestWestern, "Computer Purchased a Best Western on lot ", false},
+    {4, &ICFWindow::QUALITY, QualityInn, "Computer Purchased a Quality Inn on lot ", false},
+    {3, &ICFWindow::THRIFTY, ThriftyInn, "Computer Purchased a Thrifty on lot ", true},
+    {2, &ICFWindow::SUPER, SuperSaver, "Computer Purchased a Super Saver on lot ", true},
 }};
 
 struct Skill {
@@ -135,15 +136,11 @@ void Selections::SellOff() {
     const int lot = g.Idx;  // reading money moves `Idx`
     g.CurLot = lot;
     if (LotPicture(g, lot) == g.ICF->COMP.Picture) {
-      ReadCash(g);
       SetLot(g, lot, g.ICF->LUND, "U");
       g.LotInsured[lot] = false;
-      g.Money += g.LotValue[lot];
-      g.GFM->CCredit.Caption = MoneyText(g.Money);
+      AddTo(g, g.GFM->CCredit, g.LotValue[lot]);
       PayIntoBank(g, g.LotValue[lot]);
-      ReadMoney(g, g.GFM->CNW.Caption);
-      g.Money -= g.LotValue[lot];
-      g.GFM->CNW.Caption = MoneyText(g.Money);
+      TakeFrom(g, g.GFM->CNW, g.LotValue[lot]);
       --g.CompBareLots;
       g.Money = g.LotValue[lot].Share(0.25);
       g.LotValue[lot] -= g.Money;
@@ -172,10 +169,8 @@ bool Selections::ScanOpenLots() {
 }
 
 void Selections::Buy() {
-  ReadCash(g);
   SetLot(g, g.CurLot, g.ICF->COMP, "CU");
-  g.Money -= g.LotValue[g.CurLot];
-  g.GFM->CCredit.Caption = MoneyText(g.Money);
+  TakeFrom(g, g.GFM->CCredit, g.LotValue[g.CurLot]);
   ReadMoney(g, g.GFM->CNW.Caption);  // stays in `Money` until cash is read again
   g.GFM->CNW.Caption = MoneyText(g.Money + g.LotValue[g.CurLot]);
   --g.OpenLots;  // also for a condemned lot
@@ -225,8 +220,8 @@ bool Selections::PutUp(const ComputerClass& building) {
     g.Refused = false;
     return false;
   }
-  Control& icon = g.ICF.operator->()->*building.icon;
-  SetLot(g, g.CurLot, icon, building.tag);
+  Control& icon = g.ICF->*building.icon;
+  SetLot(g, g.CurLot, icon, computerTags[building.building]);
   AddToCount(icon, 1);
   g.GFM->PSHOW.Caption = std::string(building.news) + NumberText(g.CurLot);
   return true;

@@ -72,9 +72,7 @@ void BK::OPT1_Click(Game& g, int index) {
 
 void BK::CMDOK_Click(Game& g) {
   if (g.LoanAmount > Dollars(500'000) || g.LoanAmount < Dollars(100'000)) return;
-  ReadMoney(g, g.GFM->PCredit.Caption);
-  g.Money += g.LoanAmount;
-  g.GFM->PCredit.Caption = MoneyText(g.Money);
+  AddTo(g, g.GFM->PCredit, g.LoanAmount);
   g.PlayerLoan += g.LoanAmount;
   g.LoanAmount = Currency();
   g.Hide(g.BK);

@@ -133,9 +133,7 @@ void CHN::CMDOK_Click(Game& g) {
   if (g.CardAmount != Currency()) {
     g.GFM->PCredit.Caption = MoneyText(g.Money);
     if (g.Word == "BAD") {
-      ReadMoney(g, g.GFM->CCredit.Caption);
-      g.Money += g.CardAmount;
-      g.GFM->CCredit.Caption = MoneyText(g.Money);
+      AddTo(g, g.GFM->CCredit, g.CardAmount);
       PayIntoBank(g, g.CardAmount.Share(0.22));
     }
   }

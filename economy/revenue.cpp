@@ -1,20 +1,14 @@
 #include "economy/revenue.h"
 
-#include <array>
 #include <string_view>
 
+#include "game/buildings.h"
 #include "game/lots.h"
 #include "game/money.h"
 #include "game/text.h"
 
 namespace zelvo {
 namespace {
-
-using Tags = std::array<std::string_view, 7>;
-
-// The order is that of the scan; the last one is the restaurant.
-constexpr Tags playerTags = {"PSH", "PTH", "PQH", "PBH", "PRH", "PHH", "PDH"};
-constexpr Tags computerTags = {"CSH", "CTH", "CQH", "CBH", "CRH", "CHH", "CDR"};
 
 /// A side's rate for one payment. The better rate is a floating number and no money value.
 struct Rate {
@@ -45,7 +39,7 @@ BetterRate FindBetterRate(Game& g) {
 }
 
 /// Adds up the income of the buildings with these tags in `Tally`, and counts the restaurants.
-void SumIncome(Game& g, const Tags& tags, const Rate& rate) {
+void SumIncome(Game& g, const BuildingTags& tags, const Rate& rate) {
   g.OwnerTags.fill("");
   for (std::size_t i = 0; i < tags.size(); ++i) g.OwnerTags[i + 1] = tags[i];
   for (const std::string_view earning : tags) {
@@ -53,7 +47,7 @@ void SumIncome(Game& g, const Tags& tags, const Rate& rate) {
       if (LotTag(g, g.Idx) != earning) continue;
       g.Money = rate.Of(g.LotValue[g.Idx]);
       g.Tally += g.Money;
-      if (earning == tags.back()) ++g.RestCount;
+      if (earning == tags[Restaurant]) ++g.RestCount;
     }
   }
   g.CurTag = LotTag(g, lotCount - 1);

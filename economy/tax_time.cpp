@@ -1,6 +1,7 @@
 #include "economy/tax_time.h"
 
 #include <array>
+#include <string_view>
 
 #include "game/lots.h"
 #include "game/money.h"
@@ -53,13 +54,6 @@ Taxes SumTaxes(Game& g) {
   return taxes;
 }
 
-/// Takes an amount from a side's cash, which may fall below zero, and pays it into the bank.
-void Charge(Game& g, Control& cash, Currency amount) {
-  ReadMoney(g, cash.Caption);
-  g.Money -= amount;
-  cash.Caption = MoneyText(g.Money);
-}
-
 void TaxTime(Game& g) {
   static constexpr std::array<double, 4> interestRate = {0.05, 0.12, 0.18, 0.22};
   const Currency payment = LoanPayment(g);
@@ -71,10 +65,10 @@ void TaxTime(Game& g) {
   const Taxes taxes = SumTaxes(g);
 
   const Currency due = taxes.player + payment + interest;
-  Charge(g, g.GFM->PCredit, due);
+  TakeFrom(g, g.GFM->PCredit, due);
   g.Refresh(g.GFM);
   PayIntoBank(g, due);
-  Charge(g, g.GFM->CCredit, taxes.computer);
+  TakeFrom(g, g.GFM->CCredit, taxes.computer);
   g.Money = Currency();
   g.Refresh(g.GFM);
   PayIntoBank(g, taxes.computer);
@@ -89,9 +83,7 @@ Currency DividendOf(Game& g, std::string_view mallTag) {
 }
 
 void Credit(Game& g, Control& cash, Currency amount) {
-  ReadMoney(g, cash.Caption);
-  g.Money += amount;
-  cash.Caption = MoneyText(g.Money);
+  AddTo(g, cash, amount);
   g.Refresh(g.GFM);
 }
 

@@ -1,6 +1,6 @@
 #include "events/board_event.h"
 
-#include <string>
+#include <cstdint>
 
 #include "events/casino.h"
 #include "events/plane_crash.h"
@@ -17,8 +17,8 @@ namespace {
 /// How an attempt ends: draw again, go through the end of the event, or be over at once.
 enum class Outcome : unsigned char { NextAttempt, EndOfEvent, Over };
 
-/// One run of `BoardEvent`, over all its attempts.
-struct Run {
+/// The event that one call of `BoardEvent` draws, over all its attempts.
+struct DrawnEvent {
   Game& g;
   int seconds = 0;   // of the wall clock
   int digit = 0;     // the last one of the seconds, 1 for a 0
@@ -49,7 +49,7 @@ int RoundedShare(std::uint32_t share, int width) {
 }
 
 /// Draws a lot into `CurLot`; false if the draw falls outside the board.
-bool Run::DrawLot() {
+bool DrawnEvent::DrawLot() {
   g.ValueSign = "+";
   g.SpreadDue = false;
   seconds = g.platform().WallClock().second;
@@ -68,7 +68,7 @@ bool Run::DrawLot() {
   return true;
 }
 
-Outcome Run::Dispatch() {
+Outcome DrawnEvent::Dispatch() {
   if (g.FireFlag) return Strike();
   if (g.RepairDue) {
     g.Money = g.LotValue[g.CurLot];
@@ -110,13 +110,13 @@ Outcome Run::Dispatch() {
   return DefaultRoute();
 }
 
-Outcome Run::Strike() {
+Outcome DrawnEvent::Strike() {
   g.Money = g.LotValue[g.CurLot];
   StrikeLot(g);
   return Outcome::Over;
 }
 
-Outcome Run::DefaultRoute() {
+Outcome DrawnEvent::DefaultRoute() {
   savedLot = g.CurLot;
   if (g.CurTag.size() > 1) return Outcome::NextAttempt;  // the meter stays raised
   if (Shows(g.ICF->LDIRT) && g.OpenLots < 20) return OpenPath();
@@ -124,7 +124,6 @@ Outcome Run::DefaultRoute() {
   if (Shows(g.ICF->PARK) && g.ParkCount > 14) {
     --g.ParkCount;  // the lot stays a park
     if (g.CondemnedLots > 12) Rezone();
-    g.CurLot = savedLot;
     return Outcome::EndOfEvent;
   }
   if (Shows(g.ICF->GOLF) && g.GolfCount > 12) {
@@ -137,7 +136,7 @@ Outcome Run::DefaultRoute() {
   return ParkPath();
 }
 
-Outcome Run::ParkPath() {
+Outcome DrawnEvent::ParkPath() {
   if (g.LastPark) return GolfPath();
   if (g.ParkCount > 14) return CondemnPath();
   if (Taken()) return Outcome::NextAttempt;
@@ -152,7 +151,7 @@ Outcome Run::ParkPath() {
   return Outcome::EndOfEvent;
 }
 
-Outcome Run::GolfPath() {
+Outcome DrawnEvent::GolfPath() {
   if (g.LastGolf) return CondemnPath();
   g.LastPark = false;
   if (g.GolfCount > 12) return CondemnPath();
@@ -168,7 +167,7 @@ Outcome Run::GolfPath() {
   return Outcome::EndOfEvent;
 }
 
-Outcome Run::CondemnPath() {
+Outcome DrawnEvent::CondemnPath() {
   if (g.LastCondemned) return OpenPath();
   if (g.CondemnedLots > 9) return Rezone();
   if (Taken()) return Outcome::NextAttempt;
@@ -188,7 +187,7 @@ Outcome Run::CondemnPath() {
   return Outcome::EndOfEvent;
 }
 
-Outcome Run::OpenPath() {
+Outcome DrawnEvent::OpenPath() {
   if (g.OpenLots > 15) return Rezone();
   if (Taken()) return Outcome::NextAttempt;
   if (Shows(g.ICF->LDIRT)) --g.CondemnedLots;
@@ -203,13 +202,12 @@ Outcome Run::OpenPath() {
 }
 
 /// Takes the first condemned lot from `CurLot` upward off the list; there may be none.
-Outcome Run::Rezone() {
+Outcome DrawnEvent::Rezone() {
   for (int lot = g.CurLot; lot < lotCount; ++lot) {
     if (LotPicture(g, lot) != g.ICF->LDIRT.Picture) continue;
     SetLot(g, lot, g.ICF->LUND, "U");
     g.GFM->PSHOW.Caption = "Condemmed Lot # " + NumberText(lot) + " has been rezoned";
     --g.CondemnedLots;
-    g.CurLot = lot;
     g.ValueSign = "+";
     break;
   }
@@ -220,15 +218,15 @@ Outcome Run::Rezone() {
 }  // namespace
 
 void BoardEvent(Game& g) {
-  Run run{g};
+  DrawnEvent event{g};
   g.FireFlag = false;
   g.RepairDue = false;
   auto outcome = Outcome::NextAttempt;
   while (outcome == Outcome::NextAttempt) {
-    if (run.DrawLot()) outcome = run.Dispatch();
+    if (event.DrawLot()) outcome = event.Dispatch();
   }
   if (outcome == Outcome::Over) return;
-  if (g.SpreadDue) SpreadValue(g);
+  SpreadValue(g);  // if one is due
   g.FreshLot = 0;
 }
 

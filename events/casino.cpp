@@ -15,9 +15,7 @@ namespace {
 
 /// The bank gets its 18 per cent on top.
 void PaySeller(Game& g, Control& cash) {
-  ReadMoney(g, cash.Caption);
-  g.Money += g.Delta;
-  cash.Caption = MoneyText(g.Money);
+  AddTo(g, cash, g.Delta);
   PayIntoBank(g, g.Delta.Share(0.18));
 }
 
@@ -55,7 +53,6 @@ void CasinoBuy(Game& g) {
   BlinkLot(g);
   g.CasinoMeter = 0;
   g.GFM->Image1[g.CurLot].Tag = "XC";
-  g.GFM->Image1[g.CurLot].Visible = true;
   g.LotValue[g.CurLot] = g.LotValue[g.CurLot] * 2;
   SpreadFrom(g, "+");
   CheckWealth(g);

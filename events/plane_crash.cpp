@@ -29,7 +29,6 @@ void PlaneCrash(Game& g) {
   g.GFM->LSHOW.Caption = "Plane Crash !! " + NumberText(g.CurLot);
   g.LotInsured[g.CurLot] = false;
   for (const int neighbour : Neighbours(g.CurLot)) {
-    g.Work = neighbour;
     if (!OnBoard(neighbour) || g.LotInsured[neighbour]) continue;
     totalLoss += g.LotValue[neighbour];
     Flatten(g, neighbour);
@@ -39,7 +38,6 @@ void PlaneCrash(Game& g) {
   g.CondemnedLots += 5;  // however many neighbours were hit
   g.PlaneMeter = 0;
   Flatten(g, g.CurLot);
-  g.GFM->Image1[g.CurLot].Visible = true;
   g.Yield();
   g.SpreadDue = false;
   CheckWealth(g);

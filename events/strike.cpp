@@ -40,9 +40,7 @@ void CountBuildingLost(Game& g) {
 /// Insurance pays the whole value of the lot as it stood; a lot with a loss was not insured.
 void Settle(Game& g, Control& cash, Currency loss) {
   if (loss > Currency()) return;
-  ReadMoney(g, cash.Caption);
-  g.Money += g.Delta;
-  cash.Caption = MoneyText(g.Money);
+  AddTo(g, cash, g.Delta);
   g.GFM->LSHOW.Caption = "Insurance pays up";
 }
 

@@ -13,7 +13,8 @@ inline std::string_view LotTag(Game& g, int lot) { return Trimmed(g.GFM->Image1[
 
 inline PictureId LotPicture(Game& g, int lot) { return g.GFM->Image1[lot].Picture; }
 
-/// Puts a picture and its tag on a lot; the two are always written together.
+/// Puts an icon and its tag on a lot. A strike, a crash, a casino and a mall show their picture
+/// before they change the tag.
 inline void SetLot(Game& g, int lot, const Control& icon, std::string_view tag) {
   g.GFM->Image1[lot].Picture = icon.Picture;
   g.GFM->Image1[lot].Tag = tag;

@@ -17,6 +17,18 @@ void ReadMoney(Game& g, const std::string& text) {
   g.Money = !text.empty() && text.front() == '-' ? -amount : amount;
 }
 
+void AddTo(Game& g, Control& amount, Currency gain) {
+  ReadMoney(g, amount.Caption);
+  g.Money += gain;
+  amount.Caption = MoneyText(g.Money);
+}
+
+void TakeFrom(Game& g, Control& amount, Currency loss) {
+  ReadMoney(g, amount.Caption);
+  g.Money -= loss;
+  amount.Caption = MoneyText(g.Money);
+}
+
 void BankAdd(Game& g) {
   // Events can run between the caller's last step and the deposit.
   g.Yield();

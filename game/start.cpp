@@ -37,7 +37,6 @@ void LayBoard(Game& g) {
   for (int lot = 0; lot < lotCount; ++lot) {
     SetLot(g, lot, g.ICF->LUND, "U");
     g.LotValue[lot] = Dollars(plainLotDollars);
-    g.LotInsured[lot] = false;
   }
   for (const auto& [column, dollars] : columnValues) {
     for (int lot = column; lot < lotCount; lot += boardWidth) g.LotValue[lot] = Dollars(dollars);
@@ -53,7 +52,6 @@ void FillLedgers(Game& g) {
   g.GFM->CCredit.Caption = MoneyText(g.Money);
   g.GFM->PNW.Caption = MoneyText(Currency());
   g.GFM->CNW.Caption = MoneyText(Currency());
-  g.BankCash = Dollars(1'000'000);
   g.GFM->BANKLABEL.Caption = MoneyText(g.BankCash);
 }
 
@@ -70,10 +68,8 @@ void NewGame(Game& g) {
   g.GFM->CNOH.Caption = "1";
   static_cast<GameVariables&>(g) = GameVariables{};
   LayBoard(g);
-  g.FreshLot = 10;
   FillLedgers(g);
   PlayCue(g, Cue::NewGame);
-  g.Word.clear();
   // Four events open the board; the fifth comes with the player's turn.
   for (int opening = 0; opening < 4; ++opening) {
     BoardEvent(g);

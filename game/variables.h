@@ -46,35 +46,36 @@ struct GameVariables {
   bool LastCondemned = false;
   bool LastGolf = false;
   bool LastPark = false;
-  int StrikeMeter = 0;
-  int CasinoMeter = 0;
-  int PlaneMeter = 0;
-  int MallNext = 0;
-  bool FireFlag = false;
-  bool RepairDue = false;
+  // The meters count the draws at a second that ends in 6, 2 or 9; what they bring sets them back.
+  int StrikeMeter = 0;     ///< above 10, the next draw is a strike
+  int CasinoMeter = 0;     ///< above 18, the next draw is a casino
+  int PlaneMeter = 0;      ///< above 35, the next draw is a plane crash
+  int MallNext = 0;        ///< 1: the next strike zones a mall instead
+  bool FireFlag = false;   ///< the next strike is a fire, not lightning
+  bool RepairDue = false;  ///< the event in progress is a repair
 
-  bool FastBlink = false;
-  int CancelledBuilds = 0;
-  int Ruling = 0;        ///< the zoning board's code
-  bool Refused = false;  ///< the answer of a dialog or a ruling
-  std::string ValueSign;
-  int AssessCount = 0;
-  Currency AssessRate = Currency::FromCounts(400);
+  bool FastBlink = false;   ///< the next blink is a fast one
+  int CancelledBuilds = 0;  ///< since the builder last sued
+  int Ruling = 0;           ///< the zoning board's code
+  bool Refused = false;     ///< the answer of a dialog or a ruling
+  std::string ValueSign;    ///< "+", "-" or empty: the way of the next spread
+  int AssessCount = 0;      ///< assessments since the last tax time
+  Currency AssessRate = Currency::FromCounts(400);  ///< a share of a lot's value
 
   Currency BankCash = Dollars(1'000'000);
-  Currency BankDeposit;
-  Currency PlayerLoan;
-  Currency PlayerWorth;
-  Currency CompWorth;
-  Currency BuildCost;
-  Currency WorkWorth;
-  Currency Tally;
+  Currency BankDeposit;  ///< what `BankAdd` is to pay in; 0 between its calls
+  Currency PlayerLoan;   ///< still to be paid back
+  Currency PlayerWorth;  ///< as `CheckWealth` last summed it
+  Currency CompWorth;    ///< as `CheckWealth` last summed it
+  Currency BuildCost;    ///< of the building under consideration
+  Currency WorkWorth;    ///< the player's net worth with the last building
+  Currency Tally;        ///< a side's revenue, or what a crash took from the last lot
 
   // Working variables with several uses. Some rules come from what one use leaves for another.
-  std::string Word;
-  int Work = 0;
-  int Idx = 0;
-  Currency Money;
+  std::string Word;   ///< a choice, a tag, a text on its way, or what state the program is in
+  int Work = 0;       ///< ticks and pictures of the waits, a class, a draw; 0 after `ReadMoney`
+  int Idx = 0;        ///< of the loops over the lots; behind the text after `ReadMoney`
+  Currency Money;     ///< the amount in hand; what `ReadMoney` last read
   Currency Delta;     ///< what the next spread moves
   int FreshLot = 10;  ///< a term of the draw, and the lot that the player bought last
 

@@ -58,10 +58,10 @@ void Pay(Game& g) {
 }
 
 void PutUp(Game& g, const BuildingClass& building) {
-  Control& icon = g.GFM.operator->()->*building.icon;
-  SetLot(g, g.CurLot, icon, building.tag);
+  Control& icon = g.GFM->*building.icon;
+  SetLot(g, g.CurLot, icon, building.Tag());
   AddToCount(icon, 1);
-  if (building.keyword != "REST") return;
+  if (!building.IsRestaurant()) return;
   g.Word = "REST";
   ++g.RestCount;
   g.Delta = g.LotValue[g.CurLot].Share(0.1);  // the building's cost counts

@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "game/buildings.h"
 #include "game/game.h"
 
 namespace zelvo {
@@ -14,18 +15,22 @@ struct BuildingClass {
   int multiple;              ///< of the lot's value; the restaurant's goes by level
   std::string_view title;    ///< of the quote
   std::string_view owned;    ///< behind the count
-  std::string_view tag;      ///< on the lot
-  int brand;                 ///< the hotel's number in `BrandSold`; 0 for the restaurant
+  Building building;
+
+  std::string_view Tag() const { return playerTags[building]; }  ///< on the lot
+  bool IsRestaurant() const { return building == Restaurant; }
+  /// The hotel's number in `BrandSold`.
+  int Brand() const { return building + 1; }
 };
 
 constexpr std::array<BuildingClass, 7> buildingClasses = {{
-    {"SUPER", &GFMWindow::SUPER, 2, "      Super Saver", " Supers owned", "PSH", 1},
-    {"THRIFTY", &GFMWindow::THRIFTY, 3, "      Thrifty Saver", " Thriftys owned", "PTH", 2},
-    {"QUALITY", &GFMWindow::QUALITY, 4, "      Quality Inn", " Quality Inns owned", "PQH", 3},
-    {"BEST", &GFMWindow::BEST, 5, "      Best Western", " Best Westerns owned", "PBH", 4},
-    {"RAMADA", &GFMWindow::RAMADA, 6, "      Ramada Inn", " Ramadas owned", "PRH", 5},
-    {"HILTON", &GFMWindow::HILTON, 7, "      Hilton", " Hiltons Owned", "PHH", 6},
-    {"REST", &GFMWindow::Rest, 0, "      Restaurant", " Restaurants owned", "PDH", 0},
+    {"SUPER", &GFMWindow::SUPER, 2, "      Super Saver", " Supers owned", SuperSaver},
+    {"THRIFTY", &GFMWindow::THRIFTY, 3, "      Thrifty Saver", " Thriftys owned", ThriftyInn},
+    {"QUALITY", &GFMWindow::QUALITY, 4, "      Quality Inn", " Quality Inns owned", QualityInn},
+    {"BEST", &GFMWindow::BEST, 5, "      Best Western", " Best Westerns owned", BestWestern},
+    {"RAMADA", &GFMWindow::RAMADA, 6, "      Ramada Inn", " Ramadas owned", RamadaInn},
+    {"HILTON", &GFMWindow::HILTON, 7, "      Hilton", " Hiltons Owned", Hilton},
+    {"REST", &GFMWindow::Rest, 0, "      Restaurant", " Restaurants owned", Restaurant},
 }};
 
 /// The class of a keyword; null if the word is none.

@@ -44,7 +44,7 @@ void OfferTradeFor(Game& g) {
 /// The restaurant's multiple goes by level, the hotels' do not.
 int MultipleOf(const Game& g, const BuildingClass& building) {
   static constexpr std::array<int, 4> restaurant = {3, 5, 6, 7};
-  return building.keyword == "REST" ? restaurant[g.SkillLevel] : building.multiple;
+  return building.IsRestaurant() ? restaurant[g.SkillLevel] : building.multiple;
 }
 
 const BuildingClass& ClassOfIcon(const Game& g, const Control& icon) {
@@ -76,7 +76,7 @@ void GFM::CMDBUILD_Click(Game& g) {
   g.GFM->PSHOW.Caption = "Choose the Hotel to build By Clicking the Icon above then Click Build it";
   g.GFM->CMDBUILD.Visible = false;
   g.Word.clear();  // no choice yet: a build without one does nothing
-  g.platform().SetFocus(g.GFM->BUILDIT);
+  g.SetFocus(g.GFM->BUILDIT);
 }
 
 void GFM::ClassIcon_Click(Game& g, Control& icon) {

@@ -18,9 +18,9 @@ void ShiftWorth(Game& g, Currency change) {
 
 void CountBrandSold(Game& g) {
   for (const BuildingClass& building : buildingClasses) {
-    if (building.brand == 0 || g.CurTag != building.tag) continue;
-    AddToCount(g.GFM.operator->()->*building.icon, -1);
-    ++g.BrandSold[building.brand];
+    if (building.IsRestaurant() || g.CurTag != building.Tag()) continue;
+    AddToCount(g.GFM->*building.icon, -1);
+    ++g.BrandSold[building.Brand()];
   }
 }
 
@@ -78,7 +78,6 @@ void GFM::CMDSHOT_Click(Game& g) {
   g.GFM->PCredit.Caption = MoneyText(g.Money + refund);
   ShiftWorth(g, -refund);
   CountBrandSold(g);
-  g.GFM->CMDSHOT.Visible = false;
   HideActions(g);
 }
 

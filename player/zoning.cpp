@@ -70,11 +70,11 @@ void ZoningReview(Game& g, int reviewMark) {
     return;
   }
   const BuildingClass* plan = ClassOfKeyword(g.Word);
-  if (plan != nullptr && plan->keyword == "REST") {
+  if (plan != nullptr && plan->IsRestaurant()) {
     ReviewRestaurant(g);
     return;
   }
-  if (plan != nullptr) g.Work = plan->brand;
+  if (plan != nullptr) g.Work = plan->Brand();
   const bool cheap = g.Word == "SUPER" || g.Word == "THRIFTY";
   if (cheap) {
     ReviewCheap(g);

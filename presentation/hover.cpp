@@ -1,6 +1,7 @@
 #include "presentation/hover.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace zelvo {
@@ -89,7 +90,7 @@ void GFM::Control_MouseMove(Game& g, Control& control) {
 void GFM::Image1_MouseMove(Game& g, int index) {
   const PictureId picture = g.GFM->Image1[index].Picture;
   for (const LotLine& line : lotLines) {
-    if (picture == (g.ICF.operator->()->*line.icon).Picture) g.GFM->Caption = line.text;
+    if (picture == (g.ICF->*line.icon).Picture) g.GFM->Caption = line.text;
   }
   if (picture == g.GFM->Rest.Picture) g.GFM->Caption = restaurantLine;
 }

@@ -76,6 +76,10 @@ void Surface::SetPointer(MousePointer pointer) {
   if (!ended_) platform_.SetPointer(pointer);
 }
 
+void Surface::SetFocus(Control& control) {
+  if (!ended_) platform_.SetFocus(control);
+}
+
 void Surface::Refresh(Window& window) {
   if (!ended_) platform_.Refresh(window);
 }

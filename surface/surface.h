@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "surface/platform.h"
 #include "surface/windows.h"
@@ -60,6 +61,8 @@ class Surface {
                     const std::string& title = "Zelvo");
   void SetPointer(MousePointer pointer);
   MousePointer pointer() const { return pointer_; }
+  /// Gives a control the keyboard focus.
+  void SetFocus(Control& control);
   void Refresh(Window& window);
   /// Stops the program: no further event is raised, and what still runs comes to its end unheard.
   void End();

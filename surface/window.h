@@ -85,8 +85,8 @@ class Window {
   std::vector<Control*> controls_;
 };
 
-/// A window under the name that the rules use. Touching it through `->` loads it if it is not
-/// loaded.
+/// A window under the name that the rules use. Touching it through `->` or `->*` loads it if it is
+/// not loaded.
 template <class W>
 class WindowSlot {
  public:
@@ -94,6 +94,11 @@ class WindowSlot {
   W* operator->() {
     if (!window_.IsLoaded()) LoadNow();
     return &window_;
+  }
+  /// The same for a control that a table names, as in `g.ICF->*row.icon`.
+  template <class T>
+  T& operator->*(T W::*member) {
+    return operator->()->*member;
   }
   /// The window itself, loaded or not; loads nothing.
   operator Window&() { return window_; }  // NOLINT(google-explicit-constructor): `g.Show(g.BK)`

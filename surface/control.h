@@ -37,6 +37,7 @@ struct Look {
   Align align = Align::Left;
   Border border = Border::None;
   bool vertical = false;  ///< the text runs from bottom to top
+  double textShare = 1;   ///< how much of the width the text keeps to, from the left
 };
 
 /// A key that presses a control, wherever in its window the keyboard is.

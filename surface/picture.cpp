@@ -1,6 +1,7 @@
 #include "surface/picture.h"
 
 #include <algorithm>
+#include <array>
 #include <cctype>
 #include <cstddef>
 

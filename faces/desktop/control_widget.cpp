@@ -145,9 +145,7 @@ QRectF ControlWidget::MarkArea() const {
 QRectF ControlWidget::TextArea() const {
   QRectF area = rect();
   if (HasMark(control_)) return area.adjusted(MarkArea().right() + markGap * unit_, 0, 0, 0);
-  // A name at the left of a street stands in its left half, clear of the avenue that crosses it.
-  const bool leftHalf = look().border == Border::Road && look().align == Align::Left;
-  if (leftHalf) area.setWidth(area.width() / 2);
+  area.setWidth(area.width() * look().textShare);
   const bool framed = look().ground != transparent || look().border != Border::None ||
                       control_.kind() == Kind::Button;
   const double side = framed ? 60 * unit_ : 0;

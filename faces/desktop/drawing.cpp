@@ -48,7 +48,6 @@ QString ChooseFamily() {
 }
 
 int AlignmentOf(const Look& look) {
-  if (look.border == Border::Road) return Qt::AlignCenter;
   static constexpr std::array<Qt::AlignmentFlag, 3> horizontal = {Qt::AlignLeft, Qt::AlignHCenter,
                                                                   Qt::AlignRight};
   return horizontal.at(static_cast<std::size_t>(look.align)) | Qt::AlignVCenter;

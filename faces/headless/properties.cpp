@@ -30,7 +30,7 @@ std::string WritePicture(Control& control, std::string_view text) {
     if (std::string error = ReadQuoted(text, owner); !error.empty()) return error;
   }
   const auto picture = PictureOwnedBy(owner);
-  if (!picture || (owner.empty() && text.empty())) return "the program has no such picture";
+  if (!picture || text.empty()) return "the program has no such picture";
   control.Picture = *picture;
   return "";
 }

@@ -1,5 +1,6 @@
 #include "faces/headless/scripted_game.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -103,9 +104,7 @@ bool ScriptedGame::PlaySound(const std::string& path, bool waits) {
 }
 
 void ScriptedGame::End() {
-  if (leaving_) return;
-  reply_.clear();
-  PrintLine("ended");
+  if (!leaving_) PrintLine("ended");
 }
 
 // --- The player

@@ -104,9 +104,9 @@ std::optional<IndexedName> SplitIndex(std::string_view text) {
   const char* first = text.data() + open + 1;
   const char* end = text.data() + text.size();
   const auto [stop, error] = std::from_chars(first, end, split.index);
+  if (error != std::errc() || stop + 1 != end || *stop != ')') return std::nullopt;
   // A sign or a leading zero would be a second name for the same thing.
-  const bool plain = *first >= '0' && *first <= '9' && (*first != '0' || stop == first + 1);
-  if (error != std::errc() || !plain || stop + 1 != end || *stop != ')') return std::nullopt;
+  if (*first == '-' || (*first == '0' && stop != first + 1)) return std::nullopt;
   return split;
 }
 

@@ -22,7 +22,7 @@ std::string_view WhyImpossible(const Deed& deed) {
 
 std::optional<Deed> ReadDeed(Surface& surface, std::string_view verb, std::string_view target,
                              std::string& error) {
-  Deed deed{Deed::Kind::Click, nullptr, nullptr};
+  Deed deed;
   if (verb == "hover") {
     deed.kind = Deed::Kind::Hover;
   } else if (verb == "close") {
@@ -48,28 +48,6 @@ std::optional<Deed> ReadDeed(Surface& surface, std::string_view verb, std::strin
 std::string_view WhyNot(Surface& surface, const Deed& deed) {
   return deed.control != nullptr ? surface.WhyNoInput(*deed.control)
                                  : surface.WhyNoInput(*deed.window);
-}
-
-void Deliver(Surface& surface, const Deed& deed) {
-  switch (deed.kind) {
-    case Deed::Kind::Click:
-      if (deed.control != nullptr) {
-        surface.Click(*deed.control);
-      } else {
-        surface.Click(*deed.window);
-      }
-      break;
-    case Deed::Kind::Hover:
-      if (deed.control != nullptr) {
-        surface.Hover(*deed.control);
-      } else {
-        surface.Hover(*deed.window);
-      }
-      break;
-    case Deed::Kind::Close:
-      surface.Close(*deed.window);
-      break;
-  }
 }
 
 }  // namespace zelvo

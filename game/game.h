@@ -13,9 +13,6 @@ class Game : public Surface, public ProgramVariables, public GameVariables {
   /// Ties the controls and windows to their handlers; shows nothing yet.
   explicit Game(Platform& platform);
 
-  /// The program's start: loads the start window, which shows itself and plays the opening.
-  void Start() { Load(GST); }
-
   RandomGenerator Generator;
 
  private:

@@ -6,6 +6,7 @@ namespace zelvo {
 
 class Control;
 class Window;
+struct Deed;
 
 /// A reading of the local wall clock.
 struct TimeOfDay {
@@ -52,6 +53,8 @@ class Platform {
   virtual void Refresh(Window& window) = 0;
   /// A timer was switched on or off or got a new interval (see `Control::Ticks`).
   virtual void TimerChanged(Control& timer) = 0;
+  /// The surface has taken a deed of the player or a tick; told ahead of its handlers.
+  virtual void Took(const Deed& /*deed*/) {}
   /// The program is over; no further event is raised.
   virtual void End() = 0;
 };

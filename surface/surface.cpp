@@ -1,6 +1,28 @@
 #include "surface/surface.h"
 
+#include <utility>
+
 namespace zelvo {
+
+/// While it lives, the handlers that run stand still and let others in.
+class Surface::Wait {
+ public:
+  explicit Wait(Surface& surface, const Window* modal = nullptr)
+      : surface_(surface),
+        waiting_(std::exchange(surface.waiting_, surface.running_)),
+        awaited_(std::exchange(surface.awaited_, modal)) {}
+  Wait(const Wait&) = delete;
+  Wait& operator=(const Wait&) = delete;
+  ~Wait() {
+    surface_.waiting_ = waiting_;
+    surface_.awaited_ = awaited_;
+  }
+
+ private:
+  Surface& surface_;
+  int waiting_;
+  const Window* awaited_;
+};
 
 std::array<Window*, 13> Surface::Windows() {
   return {&GST.Untouched(), &GFM.Untouched(), &ICF.Untouched(), &TT.Untouched(), &WINX.Untouched(),
@@ -35,7 +57,10 @@ void Surface::ShowModal(Window& window) {
   if (ended_) return;
   modals_.push_back(&window);
   Show(window);
-  if (window.IsShown() && !ended_) platform_.RunModal(window);
+  if (window.IsShown() && !ended_) {
+    const Wait wait(*this, &window);
+    platform_.RunModal(window);
+  }
   modals_.pop_back();
   Activate(InputWindow());
 }
@@ -56,15 +81,20 @@ void Surface::Unload(Window& window) {
 }
 
 void Surface::Yield() {
-  if (!ended_) platform_.Yield();
+  if (ended_) return;
+  const Wait wait(*this);
+  platform_.Yield();
 }
 
 void Surface::YieldUntilEvent() {
-  if (!ended_) platform_.YieldUntilEvent();
+  if (ended_) return;
+  const Wait wait(*this);
+  platform_.YieldUntilEvent();
 }
 
 Answer Surface::MessageBox(const std::string& text, MessageStyle style, const std::string& title) {
   if (ended_) return style == MessageStyle::YesNoQuestion ? Answer::No : Answer::Ok;
+  const Wait wait(*this);
   ++messageBoxes_;
   const Answer answer = platform_.MessageBox(text, style, title);
   --messageBoxes_;
@@ -90,6 +120,10 @@ void Surface::End() {
   platform_.End();
 }
 
+bool Surface::IsOpen() const {
+  return running_ == waiting_ && (awaited_ == nullptr || awaited_->IsShown());
+}
+
 Window* Surface::InputWindow() {
   for (std::size_t i = modals_.size(); i-- > 0;) {
     if (modals_[i]->IsShown()) return modals_[i];
@@ -101,6 +135,7 @@ Window* Surface::InputWindow() {
 std::string_view Surface::WhyNoInput(Window& window) {
   if (ended_) return "the program has ended";
   if (!window.IsShown()) return "the window is not shown";
+  if (!IsOpen()) return "the game is at work";
   if (messageBoxes_ > 0) return "a message box keeps the window from input";
   // The board and the start window are both live as long as no modal window is up.
   const Window* input = InputWindow();
@@ -119,37 +154,70 @@ std::string_view Surface::WhyNoInput(Control& control) {
 bool Surface::Click(Control& control) {
   if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return false;
   if (control.handlers.dropsClicksWhileBusy && running_ > 0) return false;
+  platform_.Took({Deed::Kind::Click, &control.window(), &control});
   if (control.kind() == Kind::Option) control.SetValue(true);
   if (control.kind() == Kind::CheckBox) control.SetValue(!control.Value());
   Raise(control.handlers.click, control);
   return true;
 }
 
-void Surface::Click(Window& window) {
-  if (WhyNoInput(window).empty()) Raise(window.handlers.click);
+bool Surface::Click(Window& window) {
+  if (!WhyNoInput(window).empty()) return false;
+  platform_.Took({Deed::Kind::Click, &window});
+  Raise(window.handlers.click);
+  return true;
 }
 
-void Surface::Hover(Control& control) {
-  if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return;
+bool Surface::Hover(Control& control) {
+  if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return false;
+  platform_.Took({Deed::Kind::Hover, &control.window(), &control});
   Raise(control.handlers.mouseMove, control);
+  return true;
 }
 
-void Surface::Hover(Window& window) {
-  if (WhyNoInput(window).empty()) Raise(window.handlers.mouseMove);
+bool Surface::Hover(Window& window) {
+  if (!WhyNoInput(window).empty()) return false;
+  platform_.Took({Deed::Kind::Hover, &window});
+  Raise(window.handlers.mouseMove);
+  return true;
 }
 
-void Surface::Close(Window& window) {
-  if (window.HasCloseBox() && WhyNoInput(window).empty()) Unload(window);
+bool Surface::Close(Window& window) {
+  if (!window.HasCloseBox() || !WhyNoInput(window).empty()) return false;
+  platform_.Took({Deed::Kind::Close, &window});
+  Unload(window);
+  return true;
 }
 
-void Surface::Resize(Window& window, Extent extent) {
-  if (ended_ || !window.IsShown()) return;
+bool Surface::Resize(Window& window, Extent extent) {
+  if (ended_ || !window.IsShown() || !IsOpen()) return false;
+  platform_.Took({Deed::Kind::Resize, &window, nullptr, extent});
   window.extent = extent;
   Raise(window.handlers.resize);
+  return true;
 }
 
-void Surface::Tick(Control& timer) {
-  if (!ended_ && timer.window().IsLoaded() && timer.Ticks()) Raise(timer.handlers.timer, timer);
+bool Surface::Tick(Control& timer) {
+  if (ended_ || !timer.window().IsLoaded() || !timer.Ticks() || !IsOpen()) return false;
+  platform_.Took({Deed::Kind::Tick, &timer.window(), &timer});
+  Raise(timer.handlers.timer, timer);
+  return true;
+}
+
+bool Surface::Take(const Deed& deed) {
+  switch (deed.kind) {
+    case Deed::Kind::Click:
+      return deed.control != nullptr ? Click(*deed.control) : Click(*deed.window);
+    case Deed::Kind::Hover:
+      return deed.control != nullptr ? Hover(*deed.control) : Hover(*deed.window);
+    case Deed::Kind::Close:
+      return Close(*deed.window);
+    case Deed::Kind::Resize:
+      return Resize(*deed.window, deed.extent);
+    case Deed::Kind::Tick:
+      return Tick(*deed.control);
+  }
+  return false;
 }
 
 void Surface::Raise(WindowHandlers::Function handler) {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "surface/deed.h"
 #include "surface/platform.h"
 #include "surface/windows.h"
 
@@ -39,6 +40,9 @@ class Surface {
   /// The window of that name; null if there is none.
   Window* FindWindow(std::string_view name);
 
+  /// The program's start: loads the start window, which shows itself and plays the opening.
+  void Start() { Load(GST); }
+
   // The life of a window.
 
   /// Gives a window its design values and raises its load event; nothing if it is loaded.
@@ -70,23 +74,29 @@ class Surface {
 
   // The player's input, as a face delivers it. What cannot take it drops it.
 
+  /// True while deeds and ticks are let in: no handler runs but those that wait. A wait for a modal
+  /// window is over when the window is no longer shown, even if its platform has not yet returned.
+  bool IsOpen() const;
   /// The window that takes input: the innermost modal one, else the board, else the start window.
   /// Null while nothing is shown.
   Window* InputWindow();
   /// Why the window or control takes no input now, in plain words; empty if it does.
   std::string_view WhyNoInput(Window& window);
   std::string_view WhyNoInput(Control& control);
-  /// False if the click was dropped.
+  // Each is false if it was dropped.
+
   bool Click(Control& control);
-  void Click(Window& window);
-  void Hover(Control& control);
-  void Hover(Window& window);
+  bool Click(Window& window);
+  bool Hover(Control& control);
+  bool Hover(Window& window);
   /// The close box.
-  void Close(Window& window);
+  bool Close(Window& window);
   /// The player has changed a window's size or put it to `extent`.
-  void Resize(Window& window, Extent extent);
+  bool Resize(Window& window, Extent extent);
   /// A timer's interval is over.
-  void Tick(Control& timer);
+  bool Tick(Control& timer);
+  /// Any of these.
+  bool Take(const Deed& deed);
   /// True while a tick of the timer can still come. A wait loop that looks for ticks ends without
   /// it, so that nothing waits for ever once the timer's window was closed under the loop.
   bool WillTick(const Control& timer) const { return !ended_ && timer.Ticks(); }
@@ -100,6 +110,8 @@ class Surface {
   virtual Game& Self() = 0;
 
  private:
+  class Wait;
+
   void Raise(WindowHandlers::Function handler);
   void Raise(Handlers::Function handler, Control& control);
   void Activate(Window* window);
@@ -107,8 +119,10 @@ class Surface {
   Platform& platform_;
   std::vector<Window*> modals_;  // outermost first; one that is hidden may still be ending
   MousePointer pointer_ = MousePointer::Arrow;
-  int running_ = 0;       // handlers on the stack
-  int messageBoxes_ = 0;  // open ones
+  int running_ = 0;                  // handlers on the stack
+  int waiting_ = 0;                  // those of them that stand in the innermost wait or under it
+  int messageBoxes_ = 0;             // open ones
+  const Window* awaited_ = nullptr;  // the modal window of the innermost wait, if it is for one
   bool ended_ = false;
 };
 

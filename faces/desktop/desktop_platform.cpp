@@ -60,6 +60,9 @@ void DesktopPlatform::Sync() {
     syncAgain_ = false;
     OpenAndCloseWindows();
     for (WindowView* view : std::vector<WindowView*>(open_)) view->Sync();
+    if (!waitsForSound_ && !HasEnded() && surface_->IsOpen()) {
+      for (WindowView* view : std::vector<WindowView*>(open_)) view->TellSizeIfDue();
+    }
   } while (syncAgain_ && !HasEnded());
   syncing_ = false;
 }
@@ -183,6 +186,10 @@ void DesktopPlatform::Tick(Control& control) {
     return;
   }
   QTimer& timer = *timers_.at(&control);
+  if (!HasEnded() && !surface_->IsOpen()) {
+    timer.start(0);  // the dialog that was waited for is gone; the tick comes right behind it
+    return;
+  }
   const int length = machine_.tickLength(control.Interval());
   if (timer.interval() != length) timer.setInterval(length);  // after a held tick
   Deliver([&control](Surface& surface) { surface.Tick(control); });

@@ -174,7 +174,10 @@ void WindowView::changeEvent(QEvent* event) {
 }
 
 void WindowView::TellSize() {
-  sizeTold_ = desk_.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); });
+  sizeTold_ = false;
+  desk_.Deliver([this](Surface& surface) {
+    sizeTold_ = surface.Resize(window_, extent_) || !window_.IsShown();
+  });
 }
 
 void WindowView::TellSizeIfDue() {

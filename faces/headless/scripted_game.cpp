@@ -83,7 +83,7 @@ void ScriptedGame::Run() {
 
 bool ScriptedGame::DeliverHeldInput() {
   if (held_.empty()) return false;
-  for (const Deed& deed : std::exchange(held_, {})) Deliver(game_, deed);
+  for (const Deed& deed : std::exchange(held_, {})) game_.Take(deed);
   return true;
 }
 
@@ -186,7 +186,7 @@ std::string ScriptedGame::ExecuteDeed(std::string_view verb, std::string_view re
   const auto deed = ReadCommand(verb, rest, error);
   if (!deed) return error;
   error = WhyNot(game_, *deed);
-  if (error.empty()) Deliver(game_, *deed);
+  if (error.empty()) game_.Take(*deed);
   return error;
 }
 

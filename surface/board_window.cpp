@@ -1,4 +1,5 @@
 #include "surface/looks.h"
+#include "surface/named.h"
 #include "surface/windows.h"
 
 namespace zelvo {
@@ -66,61 +67,62 @@ GFMWindow::GFMWindow(Surface& surface)
   PlaceLedgers();
   PlaceActions();
   PlaceBottomStrip();
-  Place(Timer1, Kind::Timer, "Timer1", {});
+  Place(NAMED(Timer1), Kind::Timer, {});
 }
 
 void GFMWindow::PlaceBoard() {
-  Place(Panel3D1, Kind::Panel, "Panel3D1", {50, 30, 5805, 5800},
+  Place(NAMED(Panel3D1), Kind::Panel, {50, 30, 5805, 5800},
         {.look = {.ground = looks::asphalt, .border = Border::Raised}});
   for (int i = 0; i < 13; ++i) {
-    Place(Label7[i], Kind::Label, "Label7", streets[i].box,
+    Place(ENTRY(Label7, i), Kind::Label, streets[i].box,
           {.caption = streets[i].text,
            .look = looks::street,
            .words = streets[i].words,
            .group = &streetGroup},
-          &Panel3D1, i);
+          &Panel3D1);
   }
   const auto avenue = [this](int number, Box box, std::string_view text, std::string_view words) {
-    Place(Label6[number], Kind::Label, "Label6", box,
+    Place(ENTRY(Label6, number), Kind::Label, box,
           {.caption = text, .look = looks::avenue, .words = words, .group = &streetGroup},
-          &Panel3D1, number);
+          &Panel3D1);
   };
   avenue(0, {madisonPlace, 0, eastLots - madisonPlace, boardSize}, "M A D I S  O N    P L A C E",
          "Madison Place");
   avenue(2, {2880, 0, 240, boardSize}, "B  R O A D W A Y", "Broadway");
   avenue(4, {lotSize, 0, parkPlace - lotSize, boardSize}, "P A R  K      P L A C E", "Park Place");
   for (int lot = 0; lot < lotCount; ++lot) {
-    Place(Image1[lot], Kind::Image, "Image1",
+    Place(ENTRY(Image1, lot), Kind::Image,
           {columnLeft[lot % boardWidth], rowTop[lot / boardWidth], lotSize, lotSize},
           {.look = {.border = Border::Line},
            .label = "Lot",
            .numbered = true,
            .group = &boardGroup,
            .tabLevel = boardLevel},
-          &Panel3D1, lot);
+          &Panel3D1);
   }
 }
 
 void GFMWindow::PlaceLedgers() {
   using namespace looks;
-  Place(Panel3D2, Kind::Panel, "Panel3D2", {5880, 30, 3594, 6696}, {.look = panel});
+  Place(NAMED(Panel3D2), Kind::Panel, {5880, 30, 3594, 6696}, {.look = panel});
 
-  const auto ledger = [this](int top, int side, Color colour, Control& emblem, Control& heading,
-                             Control& up, Control& credit, Control& worth, Control& owned) {
+  const auto ledger = [this](int top, int side, Color colour, NamedControl emblem,
+                             NamedControl heading, NamedControl up, NamedControl credit,
+                             NamedControl worth, NamedControl owned) {
     const bool player = side == 0;
     const Group* group = &ledgerGroups[side];
     constexpr int nameWidth = 1500;
     constexpr int amountLeft = 90 + nameWidth;
     constexpr int amountWidth = 1914;
-    Place(heading, Kind::Label, player ? "Label2" : "Label3", {90, top, 3414, 300},
+    Place(heading, Kind::Label, {90, top, 3414, 300},
           {.caption = player ? "Player" : "Computer",
            .look = Heading(colour, Align::Center),
            .group = group},
           &Panel3D2);
-    Place(emblem, Kind::Image, player ? "Image2" : "Image3", {120, top + 15, 270, 270},
+    Place(emblem, Kind::Image, {120, top + 15, 270, 270},
           {.picture = player ? PictureId::GFM_Image2 : PictureId::GFM_Image3, .group = group},
           &Panel3D2);
-    Place(up, Kind::Label, player ? "PUP" : "CUP", {2960, top + 40, 480, 220},
+    Place(up, Kind::Label, {2960, top + 40, 480, 220},
           {.caption = "UP",
            .visible = false,
            .look = {.ink = ink,
@@ -131,18 +133,17 @@ void GFMWindow::PlaceLedgers() {
            .words = player ? "Player's turn" : "Computer's turn",
            .group = group},
           &Panel3D2);
-    Place(Label4[side], Kind::Label, "Label4", {90, top + 310, nameWidth, 245},
-          {.caption = "Credit  $", .look = AmountName(colour), .group = group}, &Panel3D2, side);
-    Place(credit, Kind::Label, player ? "PCredit" : "CCredit",
-          {amountLeft, top + 310, amountWidth, 245},
+    Place(ENTRY(Label4, side), Kind::Label, {90, top + 310, nameWidth, 245},
+          {.caption = "Credit  $", .look = AmountName(colour), .group = group}, &Panel3D2);
+    Place(credit, Kind::Label, {amountLeft, top + 310, amountWidth, 245},
           {.look = amount,
            .label = player ? "Player's credit" : "Computer's credit",
            .group = group,
            .speech = Speech::Standing},
           &Panel3D2);
-    Place(Label5[side], Kind::Label, "Label5", {90, top + 565, nameWidth, 245},
-          {.caption = "Net Worth $", .look = AmountName(colour), .group = group}, &Panel3D2, side);
-    Place(worth, Kind::Label, player ? "PNW" : "CNW", {amountLeft, top + 565, amountWidth, 245},
+    Place(ENTRY(Label5, side), Kind::Label, {90, top + 565, nameWidth, 245},
+          {.caption = "Net Worth $", .look = AmountName(colour), .group = group}, &Panel3D2);
+    Place(worth, Kind::Label, {amountLeft, top + 565, amountWidth, 245},
           {.look = amount,
            .label = player ? "Player's net worth" : "Computer's net worth",
            .group = group,
@@ -150,22 +151,24 @@ void GFMWindow::PlaceLedgers() {
           &Panel3D2);
     // The player's line is the one numbered 1.
     const int line = 1 - side;
-    Place(NHLabel[line], Kind::Label, "NHLabel", {90, top + 820, 2714, 245},
+    Place(ENTRY(NHLabel, line), Kind::Label, {90, top + 820, 2714, 245},
           {.caption = player ? "Number of properties owned " : "Number of properties owned  ",
            .look = AmountName(colour),
            .group = group},
-          &Panel3D2, line);
-    Place(owned, Kind::Label, player ? "PNOH" : "CNOH", {2804, top + 820, 700, 245},
+          &Panel3D2);
+    Place(owned, Kind::Label, {2804, top + 820, 700, 245},
           {.look = amount,
            .label = player ? "Player's properties" : "Computer's properties",
            .group = group,
            .speech = Speech::Standing},
           &Panel3D2);
   };
-  ledger(80, 0, playerBlue, Image2, Label2, PUP, PCredit, PNW, PNOH);
-  ledger(1200, 1, computerRed, Image3, Label3, CUP, CCredit, CNW, CNOH);
+  ledger(80, 0, playerBlue, NAMED(Image2), NAMED(Label2), NAMED(PUP), NAMED(PCredit), NAMED(PNW),
+         NAMED(PNOH));
+  ledger(1200, 1, computerRed, NAMED(Image3), NAMED(Label3), NAMED(CUP), NAMED(CCredit), NAMED(CNW),
+         NAMED(CNOH));
 
-  Place(LSHOW, Kind::Label, "LSHOW", {90, 2320, 3414, 290},
+  Place(NAMED(LSHOW), Kind::Label, {90, 2320, 3414, 290},
         {.look = {.ink = white, .ground = night, .letterHeight = 190, .align = Align::Center},
          .group = &newsGroup,
          .speech = Speech::News},
@@ -173,37 +176,36 @@ void GFMWindow::PlaceLedgers() {
   int left = 90;
   for (int light = 1; light <= 6; ++light) {
     const int width = 254 + 90 * light;
-    Place(LITE[light], Kind::Label, "LITE", {left, 2625, width, 95},
-          {.visible = false, .look = {.ground = lights[light - 1]}}, &Panel3D2, light);
+    Place(ENTRY(LITE, light), Kind::Label, {left, 2625, width, 95},
+          {.visible = false, .look = {.ground = lights[light - 1]}}, &Panel3D2);
     left += width;
   }
-  Place(Panel3D3, Kind::Panel, "Panel3D3", {90, 2740, 3414, 1400}, {.look = panel}, &Panel3D2);
+  Place(NAMED(Panel3D3), Kind::Panel, {90, 2740, 3414, 1400}, {.look = panel}, &Panel3D2);
   Place(
-      PSHOW, Kind::Label, "PSHOW", {45, 45, 3324, 1310},
+      NAMED(PSHOW), Kind::Label, {45, 45, 3324, 1310},
       {.look = {.ground = cream, .letterHeight = 190}, .group = &newsGroup, .speech = Speech::News},
       &Panel3D3);
 }
 
 void GFMWindow::PlaceActions() {
   struct Icon {
-    Control& control;
-    std::string_view name;
+    NamedControl control;
     std::string_view words;
     PictureId picture;
     int left;
     int top;
   };
   const std::array<Icon, 7> icons = {{
-      {SUPER, "SUPER", "Super Saver", PictureId::GFM_SUPER, 360, 4200},
-      {THRIFTY, "THRIFTY", "Thrifty Inn", PictureId::GFM_THRIFTY, 840, 4200},
-      {QUALITY, "QUALITY", "Quality Inn", PictureId::GFM_QUALITY, 1320, 4200},
-      {BEST, "BEST", "Best Western", PictureId::GFM_BEST, 1800, 4200},
-      {RAMADA, "RAMADA", "Ramada Inn", PictureId::GFM_RAMADA, 2280, 4200},
-      {HILTON, "HILTON", "Hilton", PictureId::GFM_HILTON, 2760, 4200},
-      {Rest, "Rest", "Restaurant", PictureId::GFM_Rest, 360, 4680},
+      {NAMED(SUPER), "Super Saver", PictureId::GFM_SUPER, 360, 4200},
+      {NAMED(THRIFTY), "Thrifty Inn", PictureId::GFM_THRIFTY, 840, 4200},
+      {NAMED(QUALITY), "Quality Inn", PictureId::GFM_QUALITY, 1320, 4200},
+      {NAMED(BEST), "Best Western", PictureId::GFM_BEST, 1800, 4200},
+      {NAMED(RAMADA), "Ramada Inn", PictureId::GFM_RAMADA, 2280, 4200},
+      {NAMED(HILTON), "Hilton", PictureId::GFM_HILTON, 2760, 4200},
+      {NAMED(Rest), "Restaurant", PictureId::GFM_Rest, 360, 4680},
   }};
   for (const Icon& icon : icons) {
-    Place(icon.control, Kind::Image, icon.name, {icon.left, icon.top, 480, 480},
+    Place(icon.control, Kind::Image, {icon.left, icon.top, 480, 480},
           {.tag = "0",
            .picture = icon.picture,
            .look = {.border = Border::Line},
@@ -211,9 +213,8 @@ void GFMWindow::PlaceActions() {
            .group = &classGroup},
           &Panel3D2);
   }
-  const auto action = [this](Control& control, std::string_view name, Box box,
-                             std::string_view caption, int level) {
-    Place(control, Kind::Button, name, box,
+  const auto action = [this](NamedControl control, Box box, std::string_view caption, int level) {
+    Place(control, Kind::Button, box,
           {.caption = caption,
            .visible = false,
            .look = looks::button,
@@ -223,44 +224,44 @@ void GFMWindow::PlaceActions() {
   };
   // From a lot the keyboard comes to what can be done with it; from "Select Building" by the icons
   // to "Go ahead".
-  action(BUILDIT, "BUILDIT", {920, 4725, 2320, 400}, "Go ahead, Build it", 0);
-  action(CMDBUY, "CMDBUY", {120, 5210, 1650, 410}, "Buy Property", afterBoard);
-  action(CMDBUILD, "CMDBUILD", {1824, 5210, 1650, 410}, "Select Building", afterBoard);
-  action(CMDSELL, "CMDSELL", {120, 5650, 1650, 410}, "Sell Property", afterBoard);
-  action(CMDSHOT, "CMDSHOT", {1824, 5650, 1650, 410}, "Sell Building", afterBoard);
-  Place(CMDGO, Kind::Button, "CMDGO", {360, 6110, 2880, 530},
+  action(NAMED(BUILDIT), {920, 4725, 2320, 400}, "Go ahead, Build it", 0);
+  action(NAMED(CMDBUY), {120, 5210, 1650, 410}, "Buy Property", afterBoard);
+  action(NAMED(CMDBUILD), {1824, 5210, 1650, 410}, "Select Building", afterBoard);
+  action(NAMED(CMDSELL), {120, 5650, 1650, 410}, "Sell Property", afterBoard);
+  action(NAMED(CMDSHOT), {1824, 5650, 1650, 410}, "Sell Building", afterBoard);
+  Place(NAMED(CMDGO), Kind::Button, {360, 6110, 2880, 530},
         {.picture = PictureId::GFM_CMDGO, .words = "End of turn", .key = Key::CtrlEnter},
         &Panel3D2);
 }
 
 void GFMWindow::PlaceBottomStrip() {
   using namespace looks;
-  Place(Panel3D4, Kind::Panel, "Panel3D4", {50, 5850, 5805, 876}, {.look = panel});
-  Place(Label1, Kind::Label, "Label1", {80, 70, 2250, 370},
+  Place(NAMED(Panel3D4), Kind::Panel, {50, 5850, 5805, 876}, {.look = panel});
+  Place(NAMED(Label1), Kind::Label, {80, 70, 2250, 370},
         {.look = {.ink = playerBlue, .letterHeight = 200, .bold = true}, .label = "Skill level"},
         &Panel3D4);
-  Place(Label10, Kind::Label, "Label10", {80, 450, 2250, 330},
+  Place(NAMED(Label10), Kind::Label, {80, 450, 2250, 330},
         {.caption = "Level", .look = {.letterHeight = 190}}, &Panel3D4);
-  Place(Label8, Kind::Label, "Label8", {2360, 70, 2080, 360},
+  Place(NAMED(Label8), Kind::Label, {2360, 70, 2080, 360},
         {.caption = "First National Bank",
          .look = Heading(bankTeal, Align::Center),
          .group = &bankGroup},
         &Panel3D4);
-  Place(Label9, Kind::Label, "Label9", {2360, 450, 980, 340},
+  Place(NAMED(Label9), Kind::Label, {2360, 450, 980, 340},
         {.caption = "Net Worth $",
          .look = {.ink = white, .ground = bankTeal, .letterHeight = 130},
          .group = &bankGroup},
         &Panel3D4);
-  Place(BANKLABEL, Kind::Label, "BANKLABEL", {3340, 450, 1100, 340},
+  Place(NAMED(BANKLABEL), Kind::Label, {3340, 450, 1100, 340},
         {.caption = "$",
          .look = amount,
          .label = "Bank's net worth",
          .group = &bankGroup,
          .speech = Speech::Standing},
         &Panel3D4);
-  Place(CMDHELP, Kind::Button, "CMDHELP", {4500, 80, 600, 710},
+  Place(NAMED(CMDHELP), Kind::Button, {4500, 80, 600, 710},
         {.picture = PictureId::GFM_CMDHELP, .words = "Setup", .key = Key::F1}, &Panel3D4);
-  Place(CMDEXIT, Kind::Button, "CMDEXIT", {5140, 80, 600, 710},
+  Place(NAMED(CMDEXIT), Kind::Button, {5140, 80, 600, 710},
         {.picture = PictureId::GFM_CMDEXIT, .words = "Exit"}, &Panel3D4);
 }
 

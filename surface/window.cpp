@@ -20,11 +20,12 @@ Control* Window::Find(std::string_view fullName) const {
 
 Platform& Window::platform() const { return surface_.platform(); }
 
-void Window::Place(Control& control, Kind kind, std::string_view name, Box box,
-                   const ControlDesign& design, const Control* container, int index) {
+void Window::Place(NamedControl named, Kind kind, Box box, const ControlDesign& design,
+                   const Control* container) {
+  Control& control = named.control;
   control.kind_ = kind;
-  control.name_ = name;
-  control.index_ = index;
+  control.name_ = named.name;
+  control.index_ = named.index;
   control.box_ = box;
   control.design_ = design;
   control.container_ = container;

@@ -41,6 +41,13 @@ struct WindowHandlers {
   Function click = nullptr;
 };
 
+/// A control of a window with its name: its member's, and its index in an array.
+struct NamedControl {
+  Control& control;
+  std::string_view name;
+  int index = Control::noIndex;
+};
+
 /// A window with its controls, as plain data. Each of the thirteen windows derives from it and has
 /// its controls as members.
 class Window {
@@ -70,9 +77,8 @@ class Window {
  protected:
   ~Window() = default;
   /// Puts a control on the window. Its container, if any, is placed before it.
-  void Place(Control& control, Kind kind, std::string_view name, Box box,
-             const ControlDesign& design = {}, const Control* container = nullptr,
-             int index = Control::noIndex);
+  void Place(NamedControl named, Kind kind, Box box, const ControlDesign& design = {},
+             const Control* container = nullptr);
 
  private:
   friend class Surface;

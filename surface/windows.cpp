@@ -1,6 +1,7 @@
 #include "surface/windows.h"
 
 #include "surface/looks.h"
+#include "surface/named.h"
 
 namespace zelvo {
 
@@ -17,71 +18,70 @@ constexpr Group cardGroup = {"Chance cards", true};
 
 GSTWindow::GSTWindow(Surface& surface)
     : Window(surface, {"GST", "Zelvo 32", 9504, 6756, TitleBar::Sizable, night}) {
-  Place(Panel3D1, Kind::Panel, "Panel3D1", {200, 180, 9104, 6396}, {.look = panel});
-  Place(Image2, Kind::Image, "Image2", {346, 300, 8412, 3000}, {.picture = PictureId::GST_Image2},
+  Place(NAMED(Panel3D1), Kind::Panel, {200, 180, 9104, 6396}, {.look = panel});
+  Place(NAMED(Image2), Kind::Image, {346, 300, 8412, 3000}, {.picture = PictureId::GST_Image2},
         &Panel3D1);
-  Place(Label1, Kind::Label, "Label1", {346, 3430, 8412, 520},
+  Place(NAMED(Label1), Kind::Label, {346, 3430, 8412, 520},
         {.caption = "Buy a lot, build a hotel, own the block",
          .look = {.ink = night, .letterHeight = 360, .bold = true, .align = Align::Center}},
         &Panel3D1);
-  Place(Label2, Kind::Label, "Label2", {346, 3990, 8412, 380}, {.look = centred}, &Panel3D1);
-  Place(Panel3D2, Kind::Panel, "Panel3D2", {1552, 4560, 6000, 1400}, {.look = panel}, &Panel3D1);
+  Place(NAMED(Label2), Kind::Label, {346, 3990, 8412, 380}, {.look = centred}, &Panel3D1);
+  Place(NAMED(Panel3D2), Kind::Panel, {1552, 4560, 6000, 1400}, {.look = panel}, &Panel3D1);
   constexpr Look large = {.letterHeight = 260, .bold = true, .align = Align::Center};
-  Place(CMDSTART, Kind::Button, "CMDSTART", {250, 300, 2300, 800},
+  Place(NAMED(CMDSTART), Kind::Button, {250, 300, 2300, 800},
         {.caption = "Start Game", .look = large}, &Panel3D2);
-  Place(CMDSET, Kind::Button, "CMDSET", {2700, 300, 1450, 800},
+  Place(NAMED(CMDSET), Kind::Button, {2700, 300, 1450, 800},
         {.caption = "Setup", .look = large, .key = Key::F1}, &Panel3D2);
-  Place(CMDEXIT, Kind::Button, "CMDEXIT", {4300, 300, 1450, 800},
-        {.caption = "Exit", .look = large}, &Panel3D2);
+  Place(NAMED(CMDEXIT), Kind::Button, {4300, 300, 1450, 800}, {.caption = "Exit", .look = large},
+        &Panel3D2);
 }
 
 ICFWindow::ICFWindow(Surface& surface)
     : Window(surface, {"ICF", "Zelvo Setup options", 9348, 3360, TitleBar::NoBorder}) {
   // Bare ground around the panels: over it the legend line says what to do.
-  Place(Panel3D1, Kind::Panel, "Panel3D1", {200, 200, 4374, 2960}, {.look = panel});
-  Place(Panel3D2, Kind::Panel, "Panel3D2", {4774, 200, 4374, 2960}, {.look = panel});
+  Place(NAMED(Panel3D1), Kind::Panel, {200, 200, 4374, 2960}, {.look = panel});
+  Place(NAMED(Panel3D2), Kind::Panel, {4774, 200, 4374, 2960}, {.look = panel});
 
   struct Icon {
-    Control& control;
-    std::string_view name;
+    NamedControl control;
     PictureId picture;
     std::string_view tag;
   };
   const std::array<Icon, 22> icons = {{
-      {LUND, "LUND", PictureId::ICF_LUND, "U"},
-      {LOPEN, "LOPEN", PictureId::ICF_LOPEN, "O"},
-      {LDIRT, "LDIRT", PictureId::ICF_LDIRT, "D"},
-      {PLAYER, "PLAYER", PictureId::ICF_PLAYER, "PU"},
-      {COMP, "COMP", PictureId::ICF_COMP, "CU"},
-      {GOLF, "GOLF", PictureId::ICF_GOLF, "G"},
-      {PARK, "PARK", PictureId::ICF_PARK, "K"},
-      {CITY, "CITY", PictureId::ICF_CITY, ""},
-      {MALL, "MALL", PictureId::ICF_MALL, ""},
-      {CREST, "CREST", PictureId::ICF_CREST, ""},
-      {SUPER, "SUPER", PictureId::ICF_SUPER, "CS"},
-      {THRIFTY, "THRIFTY", PictureId::ICF_THRIFTY, "CT"},
-      {QUALITY, "QUALITY", PictureId::ICF_QUALITY, "CQ"},
-      {BEST, "BEST", PictureId::ICF_BEST, "CB"},
-      {RAMADA, "RAMADA", PictureId::ICF_RAMADA, "CR"},
-      {HILTON, "HILTON", PictureId::ICF_HILTON, "CH"},
-      {ELEC, "ELEC", PictureId::ICF_ELEC, ""},
-      {FIRE, "FIRE", PictureId::ICF_FIRE, ""},
-      {PLANE, "PLANE", PictureId::ICF_PLANE, ""},
-      {PAINT, "PAINT", PictureId::ICF_PAINT, ""},
-      {IRS, "IRS", PictureId::ICF_IRS, ""},
-      {MAN1, "MAN1", PictureId::ICF_MAN1, ""},
+      {NAMED(LUND), PictureId::ICF_LUND, "U"},
+      {NAMED(LOPEN), PictureId::ICF_LOPEN, "O"},
+      {NAMED(LDIRT), PictureId::ICF_LDIRT, "D"},
+      {NAMED(PLAYER), PictureId::ICF_PLAYER, "PU"},
+      {NAMED(COMP), PictureId::ICF_COMP, "CU"},
+      {NAMED(GOLF), PictureId::ICF_GOLF, "G"},
+      {NAMED(PARK), PictureId::ICF_PARK, "K"},
+      {NAMED(CITY), PictureId::ICF_CITY, ""},
+      {NAMED(MALL), PictureId::ICF_MALL, ""},
+      {NAMED(CREST), PictureId::ICF_CREST, ""},
+      {NAMED(SUPER), PictureId::ICF_SUPER, "CS"},
+      {NAMED(THRIFTY), PictureId::ICF_THRIFTY, "CT"},
+      {NAMED(QUALITY), PictureId::ICF_QUALITY, "CQ"},
+      {NAMED(BEST), PictureId::ICF_BEST, "CB"},
+      {NAMED(RAMADA), PictureId::ICF_RAMADA, "CR"},
+      {NAMED(HILTON), PictureId::ICF_HILTON, "CH"},
+      {NAMED(ELEC), PictureId::ICF_ELEC, ""},
+      {NAMED(FIRE), PictureId::ICF_FIRE, ""},
+      {NAMED(PLANE), PictureId::ICF_PLANE, ""},
+      {NAMED(PAINT), PictureId::ICF_PAINT, ""},
+      {NAMED(IRS), PictureId::ICF_IRS, ""},
+      {NAMED(MAN1), PictureId::ICF_MAN1, ""},
   }};
   // Three rows: eight, eight and six.
   for (int i = 0; i < static_cast<int>(icons.size()); ++i) {
     const Box box = {110 + 525 * (i % 8), 120 + 590 * (i / 8), 480, 480};
-    Place(icons[i].control, Kind::Image, icons[i].name, box,
+    Place(icons[i].control, Kind::Image, box,
           {.tag = icons[i].tag,
            .picture = icons[i].picture,
            .look = {.border = Border::Line},
            .group = &legendGroup},
           &Panel3D1);
   }
-  Place(Label1, Kind::Label, "Label1", {110, 1920, 4155, 920},
+  Place(NAMED(Label1), Kind::Label, {110, 1920, 4155, 920},
         {.caption = "Move mouse over Icons",
          .look = {.ink = white, .ground = night, .letterHeight = 230, .align = Align::Center},
          .speech = Speech::News},
@@ -93,32 +93,31 @@ ICFWindow::ICFWindow(Surface& surface)
                                                     "Better be Smart", "Better be Smart"};
   for (int i = 0; i < 4; ++i) {
     Place(
-        OPT1[i], Kind::Option, "OPT1", {110, 110 + 340 * i, 2150, 320},
+        ENTRY(OPT1, i), Kind::Option, {110, 110 + 340 * i, 2150, 320},
         {.caption = levels[i], .tag = tips[i], .value = i == 0, .look = text, .group = &levelGroup},
-        &Panel3D2, i);
+        &Panel3D2);
   }
-  Place(CKCHANCE, Kind::CheckBox, "CKCHANCE", {110, 1560, 2200, 320},
+  Place(NAMED(CKCHANCE), Kind::CheckBox, {110, 1560, 2200, 320},
         {.caption = "Use Chance cards", .value = true, .look = text}, &Panel3D2);
-  Place(CKBANK, Kind::CheckBox, "CKBANK", {110, 1900, 2200, 320},
+  Place(NAMED(CKBANK), Kind::CheckBox, {110, 1900, 2200, 320},
         {.caption = "Bank is Player also", .value = true, .look = text}, &Panel3D2);
-  Place(CMDSOUND, Kind::Button, "CMDSOUND", {2260, 120, 2010, 540},
+  Place(NAMED(CMDSOUND), Kind::Button, {2260, 120, 2010, 540},
         {.caption = "Sound On", .look = button}, &Panel3D2);
-  Place(CMDEXP, Kind::Button, "CMDEXP", {2260, 720, 2010, 540},
+  Place(NAMED(CMDEXP), Kind::Button, {2260, 720, 2010, 540},
         {.caption = "Game Explaination", .look = button}, &Panel3D2);
-  Place(CMDABOUT, Kind::Button, "CMDABOUT", {2260, 1320, 2010, 540},
+  Place(NAMED(CMDABOUT), Kind::Button, {2260, 1320, 2010, 540},
         {.caption = "About Box", .look = button}, &Panel3D2);
-  Place(cmdexit, Kind::Button, "cmdexit", {2260, 2300, 2010, 540},
+  Place(NAMED(cmdexit), Kind::Button, {2260, 2300, 2010, 540},
         {.caption = "Exit Setup", .look = button, .key = Key::Escape}, &Panel3D2);
 }
 
 TTWindow::TTWindow(Surface& surface)
     : Window(surface, {"TT", "", 4788, 2640, TitleBar::NoButtons, cream, "Assessment and taxes"}) {
-  Place(Image1, Kind::Image, "Image1", {180, 240, 960, 960});
-  Place(Label1, Kind::Label, "Label1", {1260, 240, 3380, 420},
+  Place(NAMED(Image1), Kind::Image, {180, 240, 960, 960});
+  Place(NAMED(Label1), Kind::Label, {1260, 240, 3380, 420},
         {.look = {.ink = computerRed, .letterHeight = 320, .bold = true}, .speech = Speech::News});
-  Place(Label2, Kind::Label, "Label2", {1260, 720, 3380, 900},
-        {.look = text, .speech = Speech::News});
-  Place(XSHOW, Kind::Panel, "XSHOW", {1794, 1800, 1200, 600},
+  Place(NAMED(Label2), Kind::Label, {1260, 720, 3380, 900}, {.look = text, .speech = Speech::News});
+  Place(NAMED(XSHOW), Kind::Panel, {1794, 1800, 1200, 600},
         {.look = {.ground = face,
                   .letterHeight = 320,
                   .bold = true,
@@ -131,133 +130,126 @@ WINXWindow::WINXWindow(Surface& surface)
   constexpr Look gold = {
       .ink = 0xf2cf3a, .letterHeight = 420, .bold = true, .align = Align::Center};
   constexpr Look plain = {.ink = white, .letterHeight = 330, .bold = true, .align = Align::Center};
-  Place(Label1, Kind::Label, "Label1", {180, 180, 4920, 600}, {.caption = "LABEL 1", .look = gold});
-  Place(Label2, Kind::Label, "Label2", {180, 860, 4920, 560},
-        {.caption = "LABEL 2", .look = plain});
-  Place(Label3, Kind::Label, "Label3", {180, 1500, 4920, 560},
-        {.caption = "LABEL 3", .look = plain});
-  Place(CMDEXIT, Kind::Button, "CMDEXIT", {5280, 660, 1080, 1080},
+  Place(NAMED(Label1), Kind::Label, {180, 180, 4920, 600}, {.caption = "LABEL 1", .look = gold});
+  Place(NAMED(Label2), Kind::Label, {180, 860, 4920, 560}, {.caption = "LABEL 2", .look = plain});
+  Place(NAMED(Label3), Kind::Label, {180, 1500, 4920, 560}, {.caption = "LABEL 3", .look = plain});
+  Place(NAMED(CMDEXIT), Kind::Button, {5280, 660, 1080, 1080},
         {.picture = PictureId::WINX_CMDEXIT, .words = "Close", .key = Key::Escape});
 }
 
 HHWindow::HHWindow(Surface& surface)
     : Window(surface, {"HH", "Zelvo Help", 7500, 6720, TitleBar::Fixed}) {
-  Place(Panel3D1, Kind::Panel, "Panel3D1", {90, 90, 7320, 5640}, {.look = panel});
-  Place(Text1, Kind::TextBox, "Text1", {90, 90, 7140, 5460},
+  Place(NAMED(Panel3D1), Kind::Panel, {90, 90, 7320, 5640}, {.look = panel});
+  Place(NAMED(Text1), Kind::TextBox, {90, 90, 7140, 5460},
         {.look = {.ground = white, .letterHeight = 215, .border = Border::Sunken},
          .label = "Explanation of the game"},
         &Panel3D1);
-  Place(CMDEXIT, Kind::Button, "CMDEXIT", {3270, 5820, 960, 800},
+  Place(NAMED(CMDEXIT), Kind::Button, {3270, 5820, 960, 800},
         {.picture = PictureId::HH_CMDEXIT, .words = "Close", .key = Key::Escape});
 }
 
 HSWindow::HSWindow(Surface& surface)
     : Window(surface, {"HS", "Zelvo Statistics", 3288, 4536, TitleBar::NoButtons}) {
-  Place(Label1[0], Kind::Label, "Label1", {90, 90, 3108, 380},
-        {.caption = "Statistics", .look = Heading(playerBlue, Align::Center)}, nullptr, 0);
+  Place(ENTRY(Label1, 0), Kind::Label, {90, 90, 3108, 380},
+        {.caption = "Statistics", .look = Heading(playerBlue, Align::Center)});
   for (int line = 1; line <= 3; ++line) {
-    Place(Label1[line], Kind::Label, "Label1", {90, 180 + 350 * line, 3108, 330}, {.look = centred},
-          nullptr, line);
+    Place(ENTRY(Label1, line), Kind::Label, {90, 180 + 350 * line, 3108, 330}, {.look = centred});
   }
-  Place(Label1[5], Kind::Label, "Label1", {90, 1600, 3108, 360},
-        {.look = {.letterHeight = 230, .bold = true, .align = Align::Center}}, nullptr, 5);
-  Place(L1[4], Kind::Label, "L1", {90, 2040, 3108, 360},
-        {.caption = "Purchase Insurance ?", .look = Heading(bankTeal, Align::Center)}, nullptr, 4);
-  Place(Label1[4], Kind::Label, "Label1", {90, 2420, 3108, 330},
-        {.look = {.ink = computerRed, .letterHeight = 200, .bold = true, .align = Align::Center}},
-        nullptr, 4);
-  Place(CMDAN1[0], Kind::Button, "CMDAN1", {340, 2790, 2608, 480},
-        {.caption = "Purchase insurance", .look = button}, nullptr, 0);
-  Place(CMDAN1[1], Kind::Button, "CMDAN1", {340, 3340, 2608, 480},
-        {.caption = "No insurance", .look = button}, nullptr, 1);
-  Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {340, 3890, 2608, 480},
+  Place(ENTRY(Label1, 5), Kind::Label, {90, 1600, 3108, 360},
+        {.look = {.letterHeight = 230, .bold = true, .align = Align::Center}});
+  Place(ENTRY(L1, 4), Kind::Label, {90, 2040, 3108, 360},
+        {.caption = "Purchase Insurance ?", .look = Heading(bankTeal, Align::Center)});
+  Place(ENTRY(Label1, 4), Kind::Label, {90, 2420, 3108, 330},
+        {.look = {.ink = computerRed, .letterHeight = 200, .bold = true, .align = Align::Center}});
+  Place(ENTRY(CMDAN1, 0), Kind::Button, {340, 2790, 2608, 480},
+        {.caption = "Purchase insurance", .look = button});
+  Place(ENTRY(CMDAN1, 1), Kind::Button, {340, 3340, 2608, 480},
+        {.caption = "No insurance", .look = button});
+  Place(NAMED(CMDCANCEL), Kind::Button, {340, 3890, 2608, 480},
         {.caption = "Cancel Build", .look = button, .key = Key::Escape});
 }
 
 SVWindow::SVWindow(Surface& surface)
     : Window(surface, {"SV", "Property Repairs", 3396, 2844, TitleBar::NoButtons}) {
-  Place(Image1, Kind::Image, "Image1", {1374, 120, 648, 648}, {.picture = PictureId::SV_Image1});
-  Place(Label1, Kind::Label, "Label1", {120, 850, 3156, 1240},
+  Place(NAMED(Image1), Kind::Image, {1374, 120, 648, 648}, {.picture = PictureId::SV_Image1});
+  Place(NAMED(Label1), Kind::Label, {120, 850, 3156, 1240},
         {.look = message, .speech = Speech::News});
-  Place(CMDOK, Kind::Button, "CMDOK", {1098, 2220, 1200, 480},
+  Place(NAMED(CMDOK), Kind::Button, {1098, 2220, 1200, 480},
         {.caption = "OK", .look = button, .key = Key::Escape});
 }
 
 RBWindow::RBWindow(Surface& surface)
     : Window(surface, {"RB", "Oh, Oh", 2928, 3516, TitleBar::CloseOnly}) {
-  Place(Label1, Kind::Label, "Label1", {90, 80, 2748, 340},
+  Place(NAMED(Label1), Kind::Label, {90, 80, 2748, 340},
         {.caption = "Zoning Board", .look = Heading(computerRed, Align::Center)});
-  Place(MAN, Kind::Image, "MAN", {834, 480, 1260, 1260}, {.picture = PictureId::RB_MAN});
-  Place(Label2, Kind::Label, "Label2", {90, 1800, 2748, 1626},
+  Place(NAMED(MAN), Kind::Image, {834, 480, 1260, 1260}, {.picture = PictureId::RB_MAN});
+  Place(NAMED(Label2), Kind::Label, {90, 1800, 2748, 1626},
         {.look = message, .speech = Speech::News});
 }
 
 MLWindow::MLWindow(Surface& surface)
     : Window(surface, {"ML", "Mall", 3300, 3720, TitleBar::Fixed}) {
-  Place(Label1, Kind::Label, "Label1", {90, 80, 3120, 340},
+  Place(NAMED(Label1), Kind::Label, {90, 80, 3120, 340},
         {.caption = "Property zoned for a Mall", .look = Heading(bankTeal, Align::Center)});
-  Place(Image1, Kind::Image, "Image1", {1220, 500, 860, 860});
-  Place(Label2, Kind::Label, "Label2", {90, 1440, 3120, 1560},
+  Place(NAMED(Image1), Kind::Image, {1220, 500, 860, 860});
+  Place(NAMED(Label2), Kind::Label, {90, 1440, 3120, 1560},
         {.look = message, .speech = Speech::News});
-  Place(CMD1[0], Kind::Button, "CMD1", {240, 3120, 1320, 480}, {.caption = "Yes", .look = button},
-        nullptr, 0);
-  Place(CMD1[1], Kind::Button, "CMD1", {1740, 3120, 1320, 480},
-        {.caption = "No", .look = button, .key = Key::Escape}, nullptr, 1);
+  Place(ENTRY(CMD1, 0), Kind::Button, {240, 3120, 1320, 480}, {.caption = "Yes", .look = button});
+  Place(ENTRY(CMD1, 1), Kind::Button, {1740, 3120, 1320, 480},
+        {.caption = "No", .look = button, .key = Key::Escape});
 }
 
 CHNWindow::CHNWindow(Surface& surface)
     : Window(surface, {"CHN", "Take a Chance", 7092, 3036, TitleBar::Fixed}) {
-  Place(Label1, Kind::Label, "Label1", {90, 80, 6912, 380},
+  Place(NAMED(Label1), Kind::Label, {90, 80, 6912, 380},
         {.caption = "Your turn has come to Click on a chance card",
          .look = Heading(playerBlue, Align::Center),
          .speech = Speech::News});
   constexpr std::array<std::string_view, 3> names = {"Chance card 1", "Chance card 2",
                                                      "Chance card 3"};
   for (int card = 0; card < 3; ++card) {
-    Place(Image1[card], Kind::Image, "Image1", {150 + 1320 * card, 560, 1200, 1680},
+    Place(ENTRY(Image1, card), Kind::Image, {150 + 1320 * card, 560, 1200, 1680},
           {.picture = static_cast<PictureId>(static_cast<int>(PictureId::CHN_Image1_0) + card),
            .label = names[card],
-           .group = &cardGroup},
-          nullptr, card);
+           .group = &cardGroup});
   }
-  Place(Label2, Kind::Label, "Label2", {4140, 560, 2820, 1680},
+  Place(NAMED(Label2), Kind::Label, {4140, 560, 2820, 1680},
         {.visible = false, .look = message, .speech = Speech::News});
-  Place(CMDOK, Kind::Button, "CMDOK", {4950, 2400, 1200, 480}, {.caption = "OK", .look = button});
+  Place(NAMED(CMDOK), Kind::Button, {4950, 2400, 1200, 480}, {.caption = "OK", .look = button});
 }
 
 BKWindow::BKWindow(Surface& surface)
     : Window(surface, {"BK", "The Bank", 5328, 5040, TitleBar::NoButtons}) {
-  Place(ImageN, Kind::Image, "ImageN", {150, 640, 2295, 2295}, {.look = {.border = Border::Line}});
-  Place(Label1, Kind::Label, "Label1", {90, 80, 5148, 440},
+  Place(NAMED(ImageN), Kind::Image, {150, 640, 2295, 2295}, {.look = {.border = Border::Line}});
+  Place(NAMED(Label1), Kind::Label, {90, 80, 5148, 440},
         {.caption = "I think we can arrange that",
          .look = Heading(bankTeal, Align::Center),
          .speech = Speech::News});
-  Place(Label2, Kind::Label, "Label2", {150, 3120, 5028, 560},
+  Place(NAMED(Label2), Kind::Label, {150, 3120, 5028, 560},
         {.look = message, .speech = Speech::News});
   for (int i = 0; i < 5; ++i) {
     // They feed the picture that is shown and lie outside the client area themselves.
-    Place(Image1[i], Kind::Image, "Image1", {6000, 2400 * i, 2295, 2295},
-          {.picture = static_cast<PictureId>(static_cast<int>(PictureId::BK_Image1_0) + i)},
-          nullptr, i);
+    Place(ENTRY(Image1, i), Kind::Image, {6000, 2400 * i, 2295, 2295},
+          {.picture = static_cast<PictureId>(static_cast<int>(PictureId::BK_Image1_0) + i)});
   }
   constexpr std::array<std::string_view, 5> amounts = {"Borrow $100,000", "Borrow $200,000",
                                                        "Borrow $300,000", "Borrow $400,000",
                                                        "Borrow $500,000"};
   for (int i = 0; i < 5; ++i) {
-    Place(OPT1[i], Kind::Option, "OPT1", {2700, 700 + 440 * i, 2450, 380},
-          {.caption = amounts[i], .look = {.letterHeight = 220}, .group = &loanGroup}, nullptr, i);
+    Place(ENTRY(OPT1, i), Kind::Option, {2700, 700 + 440 * i, 2450, 380},
+          {.caption = amounts[i], .look = {.letterHeight = 220}, .group = &loanGroup});
   }
-  Place(CMDOK, Kind::Button, "CMDOK", {500, 4000, 2044, 680},
+  Place(NAMED(CMDOK), Kind::Button, {500, 4000, 2044, 680},
         {.caption = "Accept Loan", .look = button});
-  Place(CMDCANCEL, Kind::Button, "CMDCANCEL", {2784, 4000, 2044, 680},
+  Place(NAMED(CMDCANCEL), Kind::Button, {2784, 4000, 2044, 680},
         {.caption = "Cancel Loan", .look = button, .key = Key::Escape});
-  Place(Timer1, Kind::Timer, "Timer1", {}, {.enabled = false, .interval = 500});
+  Place(NAMED(Timer1), Kind::Timer, {}, {.enabled = false, .interval = 500});
 }
 
 ABTWindow::ABTWindow(Surface& surface)
     : Window(surface, {"ABT", "About Box", 5400, 4200, TitleBar::CloseOnly, cream}) {
-  Place(Image1, Kind::Image, "Image1", {2140, 180, 1120, 1120}, {.picture = PictureId::ABT_Image1});
-  Place(Label1, Kind::Label, "Label1", {100, 1420, 5200, 2600},
+  Place(NAMED(Image1), Kind::Image, {2140, 180, 1120, 1120}, {.picture = PictureId::ABT_Image1});
+  Place(NAMED(Label1), Kind::Label, {100, 1420, 5200, 2600},
         {.look = {.letterHeight = 180, .align = Align::Center}});
 }
 

@@ -207,10 +207,12 @@ void ControlWidget::DrawCaption(QPainter& painter) {
 void ControlWidget::DrawPicture(QPainter& painter, const QRectF& area) const {
   const Pictures& pictures = view_.desk().pictures;
   const double proportion = pictures.Proportion(shown_.picture);
-  if (proportion <= 0) return;
-  const double width = std::min(area.width(), area.height() * proportion);
-  QRectF place(0, 0, width, width / proportion);
-  place.moveCenter(area.center());
+  QRectF place = area;
+  if (proportion > 0) {
+    const double width = std::min(area.width(), area.height() * proportion);
+    place.setSize({width, width / proportion});
+    place.moveCenter(area.center());
+  }
   const QSize pixels = (place.size() * devicePixelRatioF()).toSize();
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
   painter.drawPixmap(place, pictures.Get(shown_.picture, pixels), {});

@@ -4,55 +4,127 @@
 #include <QIcon>
 #include <QPixmapCache>
 #include <QTimer>
-#include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "faces/desktop/desktop_platform.h"
+#include "faces/standard_streams.h"
 #include "game/game.h"
 
 namespace {
 
-void SayThatThereIsNoDisplay() {
-  std::fputs("zelvo: there is no display to open a window on; zelvo-headless plays without one\n",
-             stderr);
-}
+using zelvo::Complain;
+using zelvo::PrintAnswer;
 
-/// Until the first window is up, the toolkit's own way of saying that a display does not answer is
-/// to abort.
-void LeaveInsteadOfAborting(QtMsgType type, const QMessageLogContext& /*context*/,
-                            const QString& /*message*/) {
-  if (type != QtFatalMsg) return;
-  SayThatThereIsNoDisplay();
-  std::_Exit(1);
-}
+constexpr const char* program = "zelvo";
 
-/// True if the environment names a screen to draw on.
-bool HasDisplay(std::span<char*> arguments) {
-  static constexpr const char* variables[] = {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-  const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
-  const auto namesPlatform = [](std::string_view argument) {
-    return argument == "-platform" || argument == "--platform";
-  };
-  return std::any_of(std::begin(variables), std::end(variables), isSet) ||
-         std::any_of(arguments.begin(), arguments.end(), namesPlatform);
-}
+// The toolkit has options of its own and takes them out of the command line only while it opens the
+// display. To answer without one, and to name an option that nobody knows, we know their names too.
+constexpr const char* toolkitOptions[] = {"display",
+                                          "geometry",
+                                          "icon",
+                                          "platform",
+                                          "platformpluginpath",
+                                          "platformtheme",
+                                          "plugin",
+                                          "qwindowgeometry",
+                                          "qwindowicon",
+                                          "qwindowtitle",
+                                          "session",
+                                          "style",
+                                          "stylesheet",
+                                          "title"};
 
-/// Answers --help and --version, which end the program.
-void ReadOptions(const QCoreApplication& app) {
+/// What the environment or the command line says about where to draw.
+struct Call {
+  std::string platform;  // as somebody asked for it; else the toolkit chooses
+  bool namesDisplay = false;
+};
+
+/// Reads the command line. Returns an exit status if it leaves nothing to play.
+std::optional<int> ReadCall(int argc, char** argv, Call& call) {
   QCommandLineParser parser;
   parser.setApplicationDescription("A board game of lots and hotels for one player.");
-  parser.addHelpOption();
-  parser.addVersionOption();
-  parser.process(app);
+  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  const QCommandLineOption help({"h", "help"}, "Displays this help.");
+  parser.addOption(help);
+  const QCommandLineOption version = parser.addVersionOption();
+  const auto addHidden = [&parser](QCommandLineOption option) {
+    option.setFlags(QCommandLineOption::HiddenFromHelp);
+    parser.addOption(option);
+  };
+  for (const char* name : toolkitOptions) addHidden({name, "", name});
+  addHidden({"reverse", ""});
+
+  QStringList words;
+  for (char* word : std::span(argv, static_cast<std::size_t>(argc))) {
+    words += QString::fromLocal8Bit(word);
+  }
+  const bool understood = parser.parse(words);
+  if (understood && parser.isSet(help)) {
+    const QCoreApplication named(argc, argv);  // in the help
+    return PrintAnswer(program, parser.helpText().toStdString());
+  }
+  if (understood && parser.isSet(version)) return PrintAnswer(program, "zelvo " ZELVO_VERSION "\n");
+  if (!understood) return Complain(program, parser.errorText().toStdString(), zelvo::wrongCall);
+  if (!parser.positionalArguments().isEmpty()) {
+    return Complain(program, "unknown argument " + parser.positionalArguments()[0].toStdString(),
+                    zelvo::wrongCall);
+  }
+
+  const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
+  call.platform = parser.isSet("platform") ? parser.value("platform").toStdString()
+                                           : qEnvironmentVariable("QT_QPA_PLATFORM").toStdString();
+  call.namesDisplay = parser.isSet("display") || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+  return std::nullopt;
 }
 
-/// The folder with the pictures and sounds: beside an installed program, else of the source tree.
+/// Says why no window can be opened. Returns the exit status.
+int SayThatThereIsNoDisplay(const Call& call, const std::string& reason) {
+  const std::string why = reason.empty() ? "" : " (" + reason + ")";
+  return Complain(
+      program,
+      call.platform.empty()
+          ? "there is no display to open a window on" + why + "; zelvo-headless plays without one"
+          : "no window can be opened on the platform \"" + call.platform +
+                "\" that QT_QPA_PLATFORM or -platform names" + why,
+      zelvo::failure);
+}
+
+/// Until the display is open, the toolkit's own way of saying that it cannot be opened is to abort.
+/// What it warned of first is the reason.
+class OpeningOfDisplay {
+ public:
+  explicit OpeningOfDisplay(const Call& call) : usual_(qInstallMessageHandler(Hear)) {
+    call_ = &call;
+    reason_.clear();
+  }
+  OpeningOfDisplay(const OpeningOfDisplay&) = delete;
+  OpeningOfDisplay& operator=(const OpeningOfDisplay&) = delete;
+  ~OpeningOfDisplay() { qInstallMessageHandler(usual_); }
+
+ private:
+  static void Hear(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    const bool aboutPlatform = std::string_view(context.category).starts_with("qt.qpa");
+    if (type == QtWarningMsg && aboutPlatform && reason_.empty()) reason_ = message.toStdString();
+    if (type != QtFatalMsg) return;
+    std::_Exit(SayThatThereIsNoDisplay(*call_, reason_));
+  }
+
+  QtMessageHandler usual_;
+  static inline const Call* call_ = nullptr;
+  static inline std::string reason_;
+};
+
+/// The folder with the pictures and sounds, seen from the program: in a build tree, or where it is
+/// installed.
 QString DataFolder() {
-  const QDir installed(QCoreApplication::applicationDirPath() + "/../share/zelvo");
-  return installed.exists("pictures") ? installed.canonicalPath() : ZELVO_SOURCE_ASSETS;
+  const QDir folder(QCoreApplication::applicationDirPath());
+  const QString built = folder.filePath("share/zelvo");
+  return QDir(built).exists() ? built : QDir::cleanPath(folder.filePath("../share/zelvo"));
 }
 
 QIcon ProgramIcon(const zelvo::Pictures& pictures) {
@@ -66,18 +138,15 @@ QIcon ProgramIcon(const zelvo::Pictures& pictures) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QCoreApplication::setApplicationName("zelvo");
+  zelvo::GuardStandardStreams();
+  QCoreApplication::setApplicationName(program);
   QCoreApplication::setApplicationVersion(ZELVO_VERSION);
-  if (!HasDisplay({argv, static_cast<std::size_t>(argc)})) {
-    const QCoreApplication app(argc, argv);
-    ReadOptions(app);
-    SayThatThereIsNoDisplay();
-    return 1;
-  }
-  const QtMessageHandler usual = qInstallMessageHandler(LeaveInsteadOfAborting);
+  Call call;
+  if (const auto status = ReadCall(argc, argv, call)) return *status;
+  if (!call.namesDisplay && call.platform.empty()) return SayThatThereIsNoDisplay(call, "");
+  std::optional<OpeningOfDisplay> opening(call);
   const QApplication app(argc, argv);
-  qInstallMessageHandler(usual);
-  ReadOptions(app);
+  opening.reset();
   QGuiApplication::setDesktopFileName("org.zelvo.Zelvo");
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QPixmapCache::setCacheLimit(32 * 1024);

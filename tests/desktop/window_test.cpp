@@ -2,8 +2,10 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QFile>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QTemporaryDir>
 #include <tuple>
 
 #include "tools/gallery/desktop_game.h"
@@ -136,6 +138,29 @@ TEST_F(OnScreen, EveryPictureIsDrawnSharp) {
     EXPECT_GT(platform.pictures.Proportion(picture), 0) << PictureOwner(picture);
   }
   EXPECT_TRUE(platform.pictures.Get("no-such.svg", {96, 96}).isNull());
+}
+
+TEST_F(OnScreen, APictureThatIsMissingOrBrokenIsToldOfOnceAndPutInWords) {
+  const QTemporaryDir folder;
+  QFile broken(folder.filePath("icf-golf.svg"));
+  ASSERT_TRUE(broken.open(QIODevice::WriteOnly) && broken.write("<svg><path") > 0);
+  broken.close();
+  const Pictures pictures(folder.path());
+  testing::internal::CaptureStderr();
+  for (const QSize size : {QSize(40, 40), QSize(96, 30), QSize(40, 40)}) {
+    const QImage golf = pictures.Get(PictureId::ICF_GOLF, size).toImage();
+    const QImage park = pictures.Get(PictureId::ICF_PARK, size).toImage();
+    EXPECT_EQ(golf.size(), size);
+    EXPECT_EQ(park.size(), size);
+    EXPECT_NE(golf, park) << "the words differ";
+    EXPECT_TRUE(pictures.Get("zelvo.svg", size).isNull());
+  }
+  EXPECT_EQ(pictures.Proportion(PictureId::ICF_PARK), 0);
+  const std::string start = "zelvo: " + folder.path().toStdString();
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            start + "/icf-golf.svg cannot be shown: it is no SVG picture\n" + start +
+                "/icf-park.svg cannot be shown: No such file or directory\n" + start +
+                "/zelvo.svg cannot be shown: No such file or directory\n");
 }
 
 TEST_F(OnScreen, HelpersHearWhatAControlIs) {

@@ -16,19 +16,19 @@ std::string OneLine(std::string_view text) {
   return line;
 }
 
-std::string WhatItShows(const Control& control) {
+}  // namespace
+
+std::string SpokenContent(const Control& control) {
   if (!control.design().words.empty()) return std::string(control.design().words);
   const std::string caption = OneLine(control.Caption);
   return caption.empty() ? std::string(PictureMeaning(control.Picture)) : caption;
 }
 
-}  // namespace
-
 std::string SpokenName(const Control& control) {
   const ControlDesign& design = control.design();
   std::string name(design.label);
   if (design.numbered) name += " " + std::to_string(control.index());
-  const std::string shown = WhatItShows(control);
+  const std::string shown = SpokenContent(control);
   if (!name.empty() && !shown.empty()) name += ", ";
   return name + shown;
 }

@@ -12,6 +12,9 @@ namespace zelvo {
 /// that shows nothing.
 std::string SpokenName(const Control& control);
 
+/// What a control shows now, as in "casino".
+std::string SpokenContent(const Control& control);
+
 /// What a window is, its title as a rule.
 std::string SpokenName(const Window& window);
 

@@ -14,6 +14,8 @@ constexpr Group levelGroup = {"Skill level", true};
 constexpr Group loanGroup = {"Loan", true};
 constexpr Group cardGroup = {"Chance cards", true};
 
+constexpr int afterOptions = 1;
+
 }  // namespace
 
 GSTWindow::GSTWindow(Surface& surface)
@@ -78,7 +80,8 @@ ICFWindow::ICFWindow(Surface& surface)
           {.tag = icons[i].tag,
            .picture = icons[i].picture,
            .look = {.border = Border::Line},
-           .group = &legendGroup},
+           .group = &legendGroup,
+           .tabLevel = afterOptions},
           &Panel3D1);
   }
   Place(NAMED(Label1), Kind::Label, {110, 1920, 4155, 920},

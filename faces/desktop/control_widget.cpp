@@ -31,9 +31,9 @@ ControlWidget::ControlWidget(Control& control, WindowView& view)
     : QWidget(&view), control_(control), view_(view) {
   setMouseTracking(true);
   setAttribute(Qt::WA_NoMousePropagation);
+  if (IsClickable() || WalkedGroup() != nullptr) setFocusPolicy(Qt::StrongFocus);
   if (IsClickable()) {
     setAttribute(Qt::WA_Hover);
-    setFocusPolicy(Qt::StrongFocus);
     if (control.kind() != Kind::Button) setCursor(Qt::PointingHandCursor);
   }
   if (control.kind() == Kind::TextBox) {
@@ -55,13 +55,18 @@ bool ControlWidget::IsClickable() const {
 }
 
 bool ControlWidget::TakesFocus() const {
-  const bool listens = IsClickable() || editor_ != nullptr;
+  const bool listens = IsClickable() || editor_ != nullptr || WalkedGroup() != nullptr;
   return listens && control_.Enabled() && control_.VisibleInWindow();
 }
 
-bool ControlWidget::IsWalked() const {
-  const bool inArray = control_.index() != Control::noIndex;
-  return inArray && (control_.kind() == Kind::Image || control_.kind() == Kind::Option);
+const Group* ControlWidget::WalkedGroup() const {
+  const Group* group = control_.design().group;
+  return group != nullptr && group->walked ? group : nullptr;
+}
+
+bool ControlWidget::IsFocusOfItsWindow() const {
+  const QWidget* focused = view_.focusWidget();
+  return focused != nullptr && (focused == this || isAncestorOf(focused));
 }
 
 void ControlWidget::SetInHand(bool inHand) {
@@ -77,7 +82,8 @@ void ControlWidget::TakeOver() {
   const bool newText = shown_.text != control_.Text;
   shown_ = Shown::Of(control_);
   if (editor_ != nullptr && newText) editor_->setPlainText(ScreenText(control_.Text));
-  setEnabled(control_.Enabled());
+  if (!shown_.enabled) view_.focusPath().Leave(*this);
+  setEnabled(shown_.enabled);
   update();
   if (QAccessible::isActive()) {
     QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
@@ -108,9 +114,9 @@ void ControlWidget::BecomeVisible(bool visible) {
 }
 
 void ControlWidget::ShowOrHide() {
-  if (!shown_.visible && hasFocus()) view_.AwaitFocusOf(*this);
+  if (!shown_.visible) view_.focusPath().Leave(*this);
   setVisible(shown_.visible);
-  if (shown_.visible) view_.ComeBack(*this);
+  if (shown_.visible) view_.focusPath().ComeBack(*this);
 }
 
 void ControlWidget::timerEvent(QTimerEvent* event) {
@@ -253,12 +259,19 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
                                      {Qt::Key_Up, {0, -1}},
                                      {Qt::Key_Down, {0, 1}}};
   for (const Arrow& arrow : arrows) {
-    if (event->key() == arrow.key) return view_.Walk(*this, arrow.direction);
+    if (event->key() == arrow.key) return view_.focusPath().Walk(*this, arrow.direction);
   }
+  const bool modified = (event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != 0;
+  if (modified) return QWidget::keyPressEvent(event);
   const bool click = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter ||
                      event->key() == Qt::Key_Space;
-  if (!click) return QWidget::keyPressEvent(event);
-  if (!event->isAutoRepeat()) Press();
+  if (click) {
+    if (!event->isAutoRepeat()) Press();
+    return;
+  }
+  const bool letter = !event->text().isEmpty() && event->text().front().isLetter();
+  if (!letter) return QWidget::keyPressEvent(event);
+  view_.focusPath().WalkToInitial(*this, event->text());
 }
 
 void ControlWidget::focusInEvent(QFocusEvent* event) {

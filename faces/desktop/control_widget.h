@@ -32,9 +32,13 @@ class ControlWidget : public QWidget {
   bool IsClickable() const;
   /// True if the keyboard can go to the control now.
   bool TakesFocus() const;
-  /// True if the keyboard goes to the control's array as to one thing, and arrow keys walk inside.
-  bool IsWalked() const;
+  /// The group that the keyboard goes to as to one thing and in which arrow keys walk; null if the
+  /// control is in none.
+  const Group* WalkedGroup() const;
+  /// True if the control has the keyboard whenever its window is active.
+  bool IsFocusOfItsWindow() const;
   void SetInHand(bool inHand);
+  bool IsInHand() const { return inHand_; }
   /// The same as a click of the mouse.
   void Press();
 

@@ -40,6 +40,16 @@ Extent ExtentOf(Qt::WindowStates states) {
   return states.testFlag(Qt::WindowMaximized) ? Extent::Maximised : Extent::Normal;
 }
 
+/// A key that controls can have; Key::None for any other.
+Key KeyOf(const QKeyEvent& event) {
+  const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (enter && modifiers == Qt::ControlModifier) return Key::CtrlEnter;
+  if (modifiers != Qt::NoModifier) return Key::None;
+  if (event.key() == Qt::Key_Escape) return Key::Escape;
+  return event.key() == Qt::Key_F1 ? Key::F1 : Key::None;
+}
+
 bool OnClientArea(const Control& control) {
   const Box place = control.Place();
   const WindowDesign& design = control.window().design();
@@ -49,17 +59,27 @@ bool OnClientArea(const Control& control) {
 }  // namespace
 
 WindowView::WindowView(Window& window, Desk& desk)
-    : QWidget(nullptr, FlagsOf(window.design().titleBar)), window_(window), desk_(desk) {
+    : QWidget(nullptr, FlagsOf(window.design().titleBar)),
+      window_(window),
+      desk_(desk),
+      widgets_(MakeWidgets()),
+      focusPath_(widgets_) {
   setMouseTracking(true);
   if (IsDialog()) {
     setWindowModality(Qt::ApplicationModal);
   } else {
     setMinimumSize(DesignPixels(1));
   }
-  for (Control* control : window.controls()) {
+}
+
+/// Makes a widget, owned by this one, for each control that the client area shows.
+std::vector<ControlWidget*> WindowView::MakeWidgets() {
+  std::vector<ControlWidget*> widgets;
+  for (Control* control : window_.controls()) {
     if (control->kind() == Kind::Timer || !OnClientArea(*control)) continue;
-    widgets_.push_back(new ControlWidget(*control, *this));  // owned by this widget
+    widgets.push_back(new ControlWidget(*control, *this));
   }
+  return widgets;
 }
 
 ControlWidget* WindowView::Find(const Control& control) const {
@@ -95,8 +115,6 @@ void WindowView::Open(const WindowView* opener) {
   opening_ = true;
   // The window may have been unloaded while it was maximised.
   if (extent_ != window_.extent) ApplyExtent();
-  awaited_ = nullptr;
-  lastFocused_.clear();
   ClearMark();
   if (opener == nullptr) {
     PlaceOnScreen();
@@ -108,8 +126,7 @@ void WindowView::Open(const WindowView* opener) {
   LayOut();
   for (ControlWidget* widget : widgets_) widget->SyncOnOpening();
   Sync();
-  const auto stops = TabStops();
-  if (!stops.empty()) stops.front()->setFocus();
+  focusPath_.Start();
   show();
   raise();
   activateWindow();
@@ -213,8 +230,17 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {
+  if (event->isAutoRepeat()) return;
+  const Key key = KeyOf(*event);
+  if (key != Key::None) PressByKey(key);
+}
+
+void WindowView::PressByKey(Key key) {
+  for (ControlWidget* widget : widgets_) {
+    if (widget->control().design().key == key) return widget->Press();
+  }
   // Not the board's close box: a key pressed in error must not end a game.
-  if (event->key() == Qt::Key_Escape && IsDialog()) close();
+  if (key == Key::Escape && IsDialog()) close();
 }
 
 void WindowView::mouseMoveEvent(QMouseEvent* /*event*/) {
@@ -239,7 +265,8 @@ void WindowView::Click(ControlWidget& widget) {
 
 /// The picture of an array that was clicked last is the one in hand.
 void WindowView::Mark(ControlWidget& widget) {
-  if (!widget.IsWalked() || widget.control().kind() != Kind::Image) return;
+  const bool picture = widget.control().kind() == Kind::Image;
+  if (!picture || widget.control().index() == Control::noIndex) return;
   for (ControlWidget* other : widgets_) {
     if (other->control().name() == widget.control().name()) other->SetInHand(other == &widget);
   }
@@ -260,95 +287,16 @@ void WindowView::FocusOn(const Control& control) {
 }
 
 void WindowView::FocusCame(ControlWidget& widget, Qt::FocusReason reason) {
-  awaited_ = nullptr;
-  if (widget.IsWalked()) lastFocused_[widget.control().name()] = &widget;
+  focusPath_.CameTo(widget);
   widget.update();
-  const bool moved = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-  if (moved && desk_.usesKeys) Hover(widget);
-}
-
-void WindowView::AwaitFocusOf(ControlWidget& widget) {
-  widget.clearFocus();  // or Qt would hand it to the next one
-  awaited_ = &widget;
-}
-
-void WindowView::ComeBack(ControlWidget& widget) {
-  if (awaited_ == &widget) widget.setFocus(Qt::OtherFocusReason);
+  // The lines that tell what lies under the mouse follow the keyboard too, while it is in use.
+  if (desk_.usesKeys && reason != Qt::OtherFocusReason) Hover(widget);
 }
 
 void WindowView::ShowFocus() {
-  if (ControlWidget* widget = FocusedWidget()) widget->update();
+  if (QWidget* widget = focusWidget()) widget->update();
 }
 
-ControlWidget* WindowView::FocusedWidget() const {
-  const auto found = std::find_if(widgets_.begin(), widgets_.end(), [this](ControlWidget* widget) {
-    return widget == focusWidget() || widget->isAncestorOf(focusWidget());
-  });
-  return found == widgets_.end() ? nullptr : *found;
-}
-
-void WindowView::Walk(ControlWidget& from, QPoint direction) {
-  if (!from.IsWalked()) return;
-  ControlWidget* nearest = nullptr;
-  int shortest = 0;
-  for (ControlWidget* widget : widgets_) {
-    if (widget->control().name() != from.control().name() || !widget->TakesFocus()) continue;
-    const QPoint way = widget->geometry().center() - from.geometry().center();
-    const int ahead = QPoint::dotProduct(way, direction);
-    const int aside = std::abs(QPoint::dotProduct(way, direction.transposed()));
-    if (ahead <= 0 || aside > ahead / 2) continue;
-    if (nearest != nullptr && ahead >= shortest) continue;
-    nearest = widget;
-    shortest = ahead;
-  }
-  if (nearest != nullptr) nearest->setFocus(Qt::TabFocusReason);
-}
-
-/// The member of a walked array at which the keyboard enters it: where it was last, else the
-/// option that is selected, else the first.
-ControlWidget* WindowView::EntryOf(const ControlWidget& member) const {
-  const std::string_view array = member.control().name();
-  const auto last = lastFocused_.find(array);
-  if (last != lastFocused_.end() && last->second->TakesFocus()) return last->second;
-  ControlWidget* entry = nullptr;
-  for (ControlWidget* widget : widgets_) {
-    if (widget->control().name() != array || !widget->TakesFocus()) continue;
-    if (widget->control().Value()) return widget;
-    if (entry == nullptr) entry = widget;
-  }
-  return entry;
-}
-
-std::vector<ControlWidget*> WindowView::TabStops() const {
-  std::vector<ControlWidget*> stops;
-  for (ControlWidget* widget : widgets_) {
-    if (!widget->TakesFocus()) continue;
-    if (!widget->IsWalked() || widget == EntryOf(*widget)) stops.push_back(widget);
-  }
-  return stops;
-}
-
-bool WindowView::focusNextPrevChild(bool next) {
-  const std::vector<ControlWidget*> stops = TabStops();
-  if (stops.empty()) return false;
-  // The focus may be on a control that has just gone, so places are compared, not stops.
-  const auto place = [this](const ControlWidget* widget) {
-    return std::find(widgets_.begin(), widgets_.end(), widget) - widgets_.begin();
-  };
-  const ControlWidget* focused = FocusedWidget();
-  const auto from = place(focused != nullptr ? focused : awaited_);
-  ControlWidget* target = nullptr;
-  if (next) {
-    const auto after = std::find_if(stops.begin(), stops.end(),
-                                    [&](ControlWidget* stop) { return place(stop) > from; });
-    target = after == stops.end() ? stops.front() : *after;
-  } else {
-    const auto before = std::find_if(stops.rbegin(), stops.rend(),
-                                     [&](ControlWidget* stop) { return place(stop) < from; });
-    target = before == stops.rend() ? stops.back() : *before;
-  }
-  target->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-  return true;
-}
+bool WindowView::focusNextPrevChild(bool next) { return focusPath_.Tab(next); }
 
 }  // namespace zelvo

@@ -1,13 +1,11 @@
 #pragma once
 
-#include <QPoint>
 #include <QWidget>
-#include <map>
-#include <string_view>
 #include <vector>
 
 #include "faces/desktop/control_widget.h"
 #include "faces/desktop/desk.h"
+#include "faces/desktop/focus_path.h"
 #include "surface/window.h"
 
 namespace zelvo {
@@ -41,13 +39,8 @@ class WindowView : public QWidget {
 
   void Click(ControlWidget& widget);
   void Hover(ControlWidget& widget);
-  /// Moves the focus to the nearest of the same array in a direction, as from lot to lot.
-  void Walk(ControlWidget& from, QPoint direction);
   void FocusCame(ControlWidget& widget, Qt::FocusReason reason);
-  /// A control with the focus goes; if it comes back before the focus went elsewhere, as the button
-  /// that ends the turn does, it gets the focus again.
-  void AwaitFocusOf(ControlWidget& widget);
-  void ComeBack(ControlWidget& widget);
+  FocusPath& focusPath() { return focusPath_; }
   /// Takes the mark off what the player clicked last.
   void ClearMark();
   void FocusOn(const Control& control);
@@ -66,6 +59,7 @@ class WindowView : public QWidget {
   bool focusNextPrevChild(bool next) override;
 
  private:
+  std::vector<ControlWidget*> MakeWidgets();
   QSize DesignPixels(double scale) const;
   void TakePlaceOf(const WindowView& opener);
   void PlaceOnScreen();
@@ -74,16 +68,13 @@ class WindowView : public QWidget {
   void ApplyExtent();
   void TellSize();
   void Mark(ControlWidget& widget);
-  ControlWidget* FocusedWidget() const;
-  ControlWidget* EntryOf(const ControlWidget& member) const;
-  std::vector<ControlWidget*> TabStops() const;
+  void PressByKey(Key key);
 
   Window& window_;
   Desk& desk_;
   std::vector<ControlWidget*> widgets_;
-  std::map<std::string_view, ControlWidget*> lastFocused_;  // by the name of a walked array
-  Extent extent_ = Extent::Normal;                          // as the widget shows it
-  ControlWidget* awaited_ = nullptr;                        // went away with the focus
+  FocusPath focusPath_;
+  Extent extent_ = Extent::Normal;  // as the widget shows it
   bool opening_ = false;
   bool sizeTold_ = true;
   bool pressed_ = false;

@@ -27,6 +27,7 @@ void KeepRest(Game& g) {
 
 void ShowBill(Game& g) {
   g.SV->Label1.Caption = g.Word;
+  g.SV->keepsClearOf = &g.GFM->Image1[g.CurLot];
   g.ShowModal(g.SV);
 }
 

@@ -21,6 +21,7 @@ void ZoneMall(Game& g) {
   if (BeginsWith(tag, 'C') || BeginsWith(tag, 'P') || BeginsWith(tag, 'M') || BeginsWith(tag, 'X'))
     return;
   g.MallNext = 0;
+  g.ML->keepsClearOf = &g.GFM->Image1[g.CurLot];
   g.ShowModal(g.ML);
   CheckWealth(g);
 }

@@ -23,6 +23,8 @@ struct Strip {
 constexpr int parkPlace = columnLeft[1];
 constexpr int madisonPlace = columnLeft[8] + lotSize;
 constexpr int eastLots = columnLeft[9];
+/// The names of the streets stand one below the other, clear of the avenue that crosses them.
+constexpr int streetName = parkPlace + (madisonPlace - parkPlace) / 4;
 
 constexpr std::array<Strip, 13> streets = {{
     {"5th Ave", {0, 5160, boardSize, 120}, "5th Avenue"},
@@ -74,9 +76,12 @@ void GFMWindow::PlaceBoard() {
   Place(NAMED(Panel3D1), Kind::Panel, {50, 30, 5805, 5800},
         {.look = {.ground = looks::asphalt, .border = Border::Raised}});
   for (int i = 0; i < 13; ++i) {
+    Look look = looks::street;
+    if (!streets[i].text.empty())
+      look.textShare = 2.0 * (streetName - streets[i].box.left) / streets[i].box.width;
     Place(ENTRY(Label7, i), Kind::Label, streets[i].box,
           {.caption = streets[i].text,
-           .look = looks::street,
+           .look = look,
            .words = streets[i].words,
            .group = &streetGroup},
           &Panel3D1);

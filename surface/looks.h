@@ -35,14 +35,12 @@ constexpr Look text = {.letterHeight = 200};
 constexpr Look centred = {.letterHeight = 210, .align = Align::Center};
 constexpr Look message = {
     .ground = cream, .letterHeight = 210, .align = Align::Center, .border = Border::Sunken};
-/// A street's name stands in its left half, clear of the avenue that crosses it.
 constexpr Look street = {.ink = roadLetters,
                          .ground = asphalt,
                          .letterHeight = 130,
                          .bold = true,
                          .align = Align::Center,
-                         .border = Border::Road,
-                         .textShare = 0.5};
+                         .border = Border::Road};
 constexpr Look avenue = {.ink = roadLetters,
                          .ground = asphalt,
                          .letterHeight = 160,

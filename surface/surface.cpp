@@ -37,11 +37,21 @@ Window* Surface::FindWindow(std::string_view name) {
   return nullptr;
 }
 
+template <class Handler, class... Arguments>
+void Surface::Raise(Window& window, Handler handler, Arguments&... arguments) {
+  if (handler == nullptr || ended_) return;
+  Window* outer = std::exchange(atWork_, &window);
+  ++running_;
+  handler(Self(), arguments...);
+  --running_;
+  atWork_ = outer;
+}
+
 void Surface::Load(Window& window) {
   if (window.IsLoaded()) return;
   window.state_ = WindowState::Hidden;
   window.Reset();
-  Raise(window.handlers.load);
+  Raise(window, window.handlers.load);
 }
 
 void Surface::Show(Window& window) {
@@ -49,7 +59,11 @@ void Surface::Show(Window& window) {
   Load(window);
   const bool wasShown = window.IsShown();
   window.state_ = WindowState::Shown;
-  if (!wasShown) Raise(window.handlers.resize);
+  if (!wasShown && atWork_ != &window) {
+    window.opener_ = atWork_ != nullptr || stack_.empty() ? atWork_ : stack_.back();
+  }
+  BringToFront(window);
+  if (!wasShown) Raise(window, window.handlers.resize);
   Activate(&window);
 }
 
@@ -66,18 +80,35 @@ void Surface::ShowModal(Window& window) {
 }
 
 void Surface::Hide(Window& window) {
-  if (window.IsShown()) window.state_ = WindowState::Hidden;
+  if (!window.IsShown()) return;
+  window.state_ = WindowState::Hidden;
+  TakeOffStack(window);
 }
 
 void Surface::Unload(Window& window) {
   // The board's own unload handlers unload the board again.
   if (!window.IsLoaded() || window.unloading_) return;
   window.unloading_ = true;
-  Raise(window.handlers.queryUnload);
-  Raise(window.handlers.unload);
+  Raise(window, window.handlers.queryUnload);
+  Raise(window, window.handlers.unload);
   window.unloading_ = false;
+  TakeOffStack(window);
   window.Reset();
   window.state_ = WindowState::NotLoaded;
+}
+
+void Surface::BringToFront(Window& window) {
+  std::erase(stack_, &window);
+  stack_.push_back(&window);
+  ++broughtToFront_;
+}
+
+void Surface::TakeOffStack(Window& window) {
+  const bool wasInFront = !stack_.empty() && stack_.back() == &window;
+  std::erase(stack_, &window);
+  Window* opener = std::exchange(window.opener_, nullptr);
+  if (!wasInFront || stack_.empty()) return;
+  BringToFront(opener != nullptr && opener->IsShown() ? *opener : *stack_.back());
 }
 
 void Surface::Yield() {
@@ -157,28 +188,28 @@ bool Surface::Click(Control& control) {
   platform_.Took({Deed::Kind::Click, &control.window(), &control});
   if (control.kind() == Kind::Option) control.SetValue(true);
   if (control.kind() == Kind::CheckBox) control.SetValue(!control.Value());
-  Raise(control.handlers.click, control);
+  Raise(control.window(), control.handlers.click, control);
   return true;
 }
 
 bool Surface::Click(Window& window) {
   if (!WhyNoInput(window).empty()) return false;
   platform_.Took({Deed::Kind::Click, &window});
-  Raise(window.handlers.click);
+  Raise(window, window.handlers.click);
   return true;
 }
 
 bool Surface::Hover(Control& control) {
   if (control.kind() == Kind::Timer || !WhyNoInput(control).empty()) return false;
   platform_.Took({Deed::Kind::Hover, &control.window(), &control});
-  Raise(control.handlers.mouseMove, control);
+  Raise(control.window(), control.handlers.mouseMove, control);
   return true;
 }
 
 bool Surface::Hover(Window& window) {
   if (!WhyNoInput(window).empty()) return false;
   platform_.Took({Deed::Kind::Hover, &window});
-  Raise(window.handlers.mouseMove);
+  Raise(window, window.handlers.mouseMove);
   return true;
 }
 
@@ -193,14 +224,14 @@ bool Surface::Resize(Window& window, Extent extent) {
   if (ended_ || !window.IsShown() || !IsOpen()) return false;
   platform_.Took({Deed::Kind::Resize, &window, nullptr, extent});
   window.extent = extent;
-  Raise(window.handlers.resize);
+  Raise(window, window.handlers.resize);
   return true;
 }
 
 bool Surface::Tick(Control& timer) {
   if (ended_ || !timer.window().IsLoaded() || !timer.Ticks() || !IsOpen()) return false;
   platform_.Took({Deed::Kind::Tick, &timer.window(), &timer});
-  Raise(timer.handlers.timer, timer);
+  Raise(timer.window(), timer.handlers.timer, timer);
   return true;
 }
 
@@ -220,22 +251,8 @@ bool Surface::Take(const Deed& deed) {
   return false;
 }
 
-void Surface::Raise(WindowHandlers::Function handler) {
-  if (handler == nullptr || ended_) return;
-  ++running_;
-  handler(Self());
-  --running_;
-}
-
-void Surface::Raise(Handlers::Function handler, Control& control) {
-  if (handler == nullptr || ended_) return;
-  ++running_;
-  handler(Self(), control);
-  --running_;
-}
-
 void Surface::Activate(Window* window) {
-  if (window != nullptr && window->IsShown()) Raise(window->handlers.activate);
+  if (window != nullptr && window->IsShown()) Raise(*window, window->handlers.activate);
 }
 
 }  // namespace zelvo

@@ -47,15 +47,27 @@ class Surface {
 
   /// Gives a window its design values and raises its load event; nothing if it is loaded.
   void Load(Window& window);
-  /// Shows a window beside the others and returns at once.
+  /// Shows a window in front of the others and returns at once.
   void Show(Window& window);
   /// Shows a window above the others and returns when it is hidden or unloaded and its handlers
   /// have ended.
   void ShowModal(Window& window);
-  /// Hides a window; it keeps what it holds. Ends a modal show.
+  /// Hides a window; it keeps what it holds. Ends a modal show. The window that it was opened from
+  /// comes to the front.
   void Hide(Window& window);
   /// Raises the events of unloading, then sets the window back to its design values in place.
   void Unload(Window& window);
+
+  // How the windows stand, for the face to follow.
+
+  /// The shown windows as the game put them, the lowest first.
+  const std::vector<Window*>& Stack() const { return stack_; }
+  /// Counts how often the game has brought a window to the front of the stack. When it has grown,
+  /// the front window is to be seen, above the others and active, even if it stood there before:
+  /// the player may have minimised or covered it.
+  int broughtToFront() const { return broughtToFront_; }
+  /// The window whose handler runs, the innermost one, where message boxes belong; null at rest.
+  Window* AtWork() const { return atWork_; }
 
   // Operations of the application. After `End` they all return at once.
 
@@ -112,12 +124,18 @@ class Surface {
  private:
   class Wait;
 
-  void Raise(WindowHandlers::Function handler);
-  void Raise(Handlers::Function handler, Control& control);
+  /// Runs a handler of the window, if there is one.
+  template <class Handler, class... Arguments>
+  void Raise(Window& window, Handler handler, Arguments&... arguments);
   void Activate(Window* window);
+  void BringToFront(Window& window);
+  void TakeOffStack(Window& window);
 
   Platform& platform_;
   std::vector<Window*> modals_;  // outermost first; one that is hidden may still be ending
+  std::vector<Window*> stack_;
+  int broughtToFront_ = 0;
+  Window* atWork_ = nullptr;
   MousePointer pointer_ = MousePointer::Arrow;
   int running_ = 0;                  // handlers on the stack
   int waiting_ = 0;                  // those of them that stand in the innermost wait or under it

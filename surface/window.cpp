@@ -36,6 +36,7 @@ void Window::Place(NamedControl named, Kind kind, Box box, const ControlDesign& 
 void Window::Reset() {
   Caption = design_.title;
   extent = Extent::Normal;
+  keepsClearOf = nullptr;
   for (Control* control : controls_) control->Reset();
 }
 

@@ -59,6 +59,9 @@ class Window {
   /// The title.
   std::string Caption;
   Extent extent = Extent::Normal;
+  /// A control of another window that the player is to see while this one is shown, or null: a face
+  /// places the window beside it.
+  const Control* keepsClearOf = nullptr;
 
   const WindowDesign& design() const { return design_; }
   std::string_view name() const { return design_.name; }
@@ -66,6 +69,8 @@ class Window {
   bool IsLoaded() const { return state_ != WindowState::NotLoaded; }
   bool IsShown() const { return state_ == WindowState::Shown; }
   bool HasCloseBox() const;
+  /// The window from which this one was shown; null for the first and for one that is not shown.
+  Window* opener() const { return opener_; }
   /// All controls, in the order in which they lie on the window, lowest first.
   const std::vector<Control*>& controls() const { return controls_; }
   /// The control of that full name, as in "Image1(37)"; null if there is none.
@@ -88,6 +93,7 @@ class Window {
   WindowDesign design_;
   WindowState state_ = WindowState::NotLoaded;
   bool unloading_ = false;
+  Window* opener_ = nullptr;
   std::vector<Control*> controls_;
 };
 

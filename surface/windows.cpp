@@ -100,9 +100,9 @@ ICFWindow::ICFWindow(Surface& surface)
         {.caption = levels[i], .tag = tips[i], .value = i == 0, .look = text, .group = &levelGroup},
         &Panel3D2);
   }
-  Place(NAMED(CKCHANCE), Kind::CheckBox, {110, 1560, 2200, 320},
+  Place(NAMED(CKCHANCE), Kind::CheckBox, {110, 1560, 2150, 320},
         {.caption = "Use Chance cards", .value = true, .look = text}, &Panel3D2);
-  Place(NAMED(CKBANK), Kind::CheckBox, {110, 1900, 2200, 320},
+  Place(NAMED(CKBANK), Kind::CheckBox, {110, 1900, 2150, 320},
         {.caption = "Bank is Player also", .value = true, .look = text}, &Panel3D2);
   Place(NAMED(CMDSOUND), Kind::Button, {2260, 120, 2010, 540},
         {.caption = "Sound On", .look = button}, &Panel3D2);

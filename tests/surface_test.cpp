@@ -145,6 +145,21 @@ TEST(Windows, AreToldInWords) {
   }
 }
 
+TEST(Windows, NoTwoThingsToClickOverlap) {
+  Machine machine;
+  for (const Window* window : machine.game().Windows()) {
+    std::vector<const Control*> clickable;
+    for (const Control* control : window->controls()) {
+      if (control->handlers.click == nullptr) continue;
+      for (const Control* other : clickable) {
+        EXPECT_FALSE(Overlap(control->Place(), other->Place()))
+            << window->name() << ": " << control->FullName() << ", " << other->FullName();
+      }
+      clickable.push_back(control);
+    }
+  }
+}
+
 TEST(Windows, CaptionsThatAreEasilyMistyped) {
   EXPECT_EQ(Told(Get("GFM.NHLabel(0).Caption GFM.NHLabel(1).Caption GFM.Label4(1).Caption "
                      "GFM.Label6(0).Caption GFM.Label6(4).Caption ICF.CMDEXP.Caption")),
@@ -165,6 +180,12 @@ TEST(Windows, LotsLieInTheirBlocksAndStreetsBetweenThem) {
       if (strip->name() != "Label6" && strip->name() != "Label7") continue;
       EXPECT_FALSE(Overlap(lot, strip->Place())) << i << " under " << strip->FullName();
     }
+  }
+  for (int street = 0; street < 5; ++street) {
+    const Control& strip = board.Label7[street];
+    const double middle =
+        strip.Place().left + strip.design().look.textShare * strip.Place().width / 2;
+    EXPECT_NEAR(middle, 2030, 1) << "the name on " << strip.FullName();
   }
   for (int light = 2; light <= 6; ++light) {
     const Box before = board.LITE[light - 1].Place();
@@ -244,6 +265,42 @@ TEST(WindowLife, TheStartWindowFollowsTheBoardsExtent) {
   EXPECT_EQ(game.GFM->Caption, "Board Game");
   EXPECT_EQ(game.GST->extent, Extent::Minimised);
   EXPECT_EQ(game.AppPath, "C:\\") << "no second backslash";
+}
+
+TEST(WindowLife, TheFrontIsWhereTheGamePutsIt) {
+  Machine machine;
+  Game& game = machine.game();
+  const auto stack = [&game] {
+    std::string names;
+    for (const Window* window : game.Stack()) names += std::string(window->name()) + " ";
+    return names;
+  };
+  game.Start();
+  game.Click(game.GST->CMDSTART);
+  EXPECT_EQ(stack(), "GST GFM ");
+  machine.inModal = [&](Window& window) {
+    if (&window == &game.ICF.Untouched()) {
+      EXPECT_EQ(stack(), "GST GFM ICF ");
+      game.Click(game.ICF->CMDEXP);
+      EXPECT_EQ(stack(), "GST GFM ICF ") << "the explanation gave the front back";
+    } else {
+      EXPECT_EQ(window.opener(), &game.ICF.Untouched());
+    }
+    game.Hide(window);
+  };
+  game.Click(game.GFM->CMDHELP);
+  EXPECT_EQ(stack(), "GST GFM ");
+  // The setup that the start window opens behind a board gives the front back to it.
+  game.Click(game.GST->CMDSET);
+  EXPECT_EQ(stack(), "GFM GST ");
+  int times = game.broughtToFront();
+  game.Click(game.GST->CMDSTART);
+  EXPECT_EQ(stack(), "GST GFM ");
+  EXPECT_EQ(game.broughtToFront(), ++times);
+  game.Click(game.GST->CMDSTART);
+  EXPECT_EQ(game.broughtToFront(), ++times) << "in front already, but perhaps minimised";
+  game.Click(game.GFM->CMDEXIT);
+  EXPECT_EQ(stack(), "GST ");
 }
 
 }  // namespace

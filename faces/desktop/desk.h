@@ -7,6 +7,8 @@
 
 namespace zelvo {
 
+class WindowView;
+
 /// What all windows of the desktop share: the artwork, and the way of the player's input to the
 /// game.
 class Desk {
@@ -19,6 +21,9 @@ class Desk {
   /// Hands an event to the game, unless the game is holding still for a sound, and carries what it
   /// changed over to the windows. False if it was not handed over.
   virtual bool Deliver(const std::function<void(Surface&)>& event) = 0;
+
+  /// The window in front, as the game put them; null while none is shown.
+  virtual WindowView* Front() const = 0;
 
   Pictures pictures;
   /// The player's last input came from the keyboard, so the focus is to be seen.

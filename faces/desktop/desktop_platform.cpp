@@ -63,6 +63,9 @@ void DesktopPlatform::Sync() {
     if (!waitsForSound_ && !HasEnded() && surface_->IsOpen()) {
       for (WindowView* view : std::vector<WindowView*>(open_)) view->TellSizeIfDue();
     }
+    const bool newFront = followed_ != surface_->broughtToFront();
+    followed_ = surface_->broughtToFront();
+    if (newFront && Front() != nullptr) Front()->BringToFront();
   } while (syncAgain_ && !HasEnded());
   syncing_ = false;
 }
@@ -73,15 +76,17 @@ void DesktopPlatform::OpenAndCloseWindows() {
   const std::vector<WindowView*> closing(gone, open_.end());
   open_.erase(gone, open_.end());
   for (WindowView* view : closing) view->hide();
-  for (Window* window : surface_->Windows()) {
-    if (!window->IsShown()) continue;
+  for (Window* window : std::vector<Window*>(surface_->Stack())) {
     auto& view = views_[window];
     if (!view) view = std::make_unique<WindowView>(*window, *this);
     if (std::find(open_.begin(), open_.end(), view.get()) != open_.end()) continue;
-    view->Open(open_.empty() ? nullptr : open_.back());
+    view->Open(window->opener() == nullptr ? nullptr : ViewOf(*window->opener()));
     open_.push_back(view.get());
   }
-  if (!closing.empty() && !open_.empty()) open_.back()->activateWindow();
+}
+
+WindowView* DesktopPlatform::Front() const {
+  return surface_->Stack().empty() ? nullptr : ViewOf(*surface_->Stack().back());
 }
 
 bool DesktopPlatform::Deliver(const std::function<void(Surface&)>& event) {
@@ -111,7 +116,7 @@ void DesktopPlatform::Yield() {
 void DesktopPlatform::YieldUntilEvent() {
   Sync();
   // The game is showing something: the player has nothing in hand on that window meanwhile.
-  if (!open_.empty()) open_.back()->ClearMark();
+  if (Front() != nullptr) Front()->ClearMark();
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
@@ -126,7 +131,9 @@ Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
                                    const std::string& title) {
   Sync();
   const bool question = style == MessageStyle::YesNoQuestion;
-  QMessageBox box(open_.empty() ? nullptr : open_.back());
+  const Window* asking = surface_->AtWork();
+  WindowView* parent = asking != nullptr && asking->IsShown() ? ViewOf(*asking) : Front();
+  QMessageBox box(parent);
   box.setWindowTitle(QString::fromStdString(title));
   box.setTextFormat(Qt::PlainText);
   box.setText(ScreenText(text));
@@ -134,7 +141,7 @@ Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
   if (style == MessageStyle::OkExclamation) box.setIcon(QMessageBox::Warning);
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
-  if (!open_.empty()) box.setFont(ScreenFont(static_cast<int>(13 * open_.back()->Scale()), false));
+  if (parent != nullptr) box.setFont(ScreenFont(static_cast<int>(13 * parent->Scale()), false));
   const int button = box.exec();
   if (!question) return Answer::Ok;
   return button == QMessageBox::Yes ? Answer::Yes : Answer::No;

@@ -59,6 +59,7 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void End() override;
 
   bool Deliver(const std::function<void(Surface&)>& event) override;
+  WindowView* Front() const override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -72,7 +73,8 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   Machine machine_;
   Surface* surface_ = nullptr;
   std::map<const Window*, std::unique_ptr<WindowView>> views_;
-  std::vector<WindowView*> open_;  // the latest last
+  std::vector<WindowView*> open_;  // on the screen
+  int followed_ = 0;               // of the times that the game brought a window to the front
   std::map<const Control*, std::unique_ptr<QTimer>> timers_;
   std::set<const Control*> heldTicks_;  // of timers whose time came while a sound was waited for
   bool waitsForSound_ = false;

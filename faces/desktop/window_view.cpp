@@ -11,12 +11,18 @@
 #include <cmath>
 #include <utility>
 
+#include "faces/desktop/placing.h"
+
 namespace zelvo {
 namespace {
 
 constexpr double twipsPerPixel = 15;  // at scale 1
 /// The part of the screen that a window takes when it comes up on its own.
 constexpr double shareOfScreen = 0.84;
+/// How small the player can make a window.
+constexpr double smallestScale = 0.5;
+/// What stays free around a control that a dialog keeps clear of, twips.
+constexpr int clearance = 120;
 
 Qt::WindowFlags FlagsOf(TitleBar titleBar) {
   constexpr Qt::WindowFlags titled =
@@ -68,7 +74,7 @@ WindowView::WindowView(Window& window, Desk& desk)
   if (IsDialog()) {
     setWindowModality(Qt::ApplicationModal);
   } else {
-    setMinimumSize(DesignPixels(1));
+    setMinimumSize(DesignPixels(smallestScale));
   }
 }
 
@@ -119,7 +125,7 @@ void WindowView::Open(const WindowView* opener) {
   if (opener == nullptr) {
     PlaceOnScreen();
   } else if (IsDialog()) {
-    CentreOver(*opener);
+    PlaceOver(*opener);
   } else {
     TakePlaceOf(*opener);
   }
@@ -127,10 +133,15 @@ void WindowView::Open(const WindowView* opener) {
   for (ControlWidget* widget : widgets_) widget->SyncOnOpening();
   Sync();
   focusPath_.Start();
+  frameIsNew_ = true;
   show();
+  opening_ = false;
+}
+
+void WindowView::BringToFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
   raise();
   activateWindow();
-  opening_ = false;
 }
 
 void WindowView::PlaceOnScreen() {
@@ -152,20 +163,50 @@ void WindowView::TakePlaceOf(const WindowView& opener) {
   setGeometry(opener.geometry());
 }
 
-void WindowView::CentreOver(const WindowView& opener) {
-  const QRect available = opener.screen()->availableGeometry();
-  const QSizeF design = DesignPixels(1);
-  SetScale(std::min({opener.Scale(), available.width() / design.width(),
-                     shareOfScreen * available.height() / design.height()}));
-  QRect place(QPoint(), size());
-  place.moveCenter(opener.geometry().center());
-  place.moveLeft(std::clamp(place.left(), available.left(),
-                            std::max(available.left(), available.right() - place.width())));
-  place.moveTop(std::clamp(place.top(), available.top(),
-                           std::max(available.top(), available.bottom() - place.height())));
-  setGeometry(place);
+void WindowView::PlaceOver(const WindowView& opener) {
+  const QMargins frame =
+      windowFlags().testFlag(Qt::FramelessWindowHint) ? QMargins() : opener.Frame();
+  const QRect room = opener.screen()->availableGeometry();
+  SetScale(ScaleThatFits(DesignPixels(1), room.marginsRemoved(frame).size(), opener.Scale()));
+  QRect place = QRect(QPoint(), size()).marginsAdded(frame);
+  place.moveCenter(opener.frameGeometry().center());
+  if (const QRect spot = opener.SpotOf(window_.keepsClearOf); spot.isValid()) {
+    place = MovedBeside(spot, room, place);
+  } else {
+    place = MovedInto(room, place);
+  }
+  setGeometry(place.marginsRemoved(frame));
   winId();  // makes the native window, so that it can be tied to the opener's
   windowHandle()->setTransientParent(opener.windowHandle());
+}
+
+/// Where a control of this window lies on the screen, with some ground around it; nowhere if the
+/// window shows no such control.
+QRect WindowView::SpotOf(const Control* control) const {
+  const ControlWidget* widget = control == nullptr ? nullptr : Find(*control);
+  if (widget == nullptr) return {};
+  const int ground = static_cast<int>(std::ceil(clearance * Scale() / twipsPerPixel));
+  return QRect(widget->mapToGlobal(QPoint()), widget->size())
+      .marginsAdded({ground, ground, ground, ground});
+}
+
+/// The title bar and the borders that the desktop has put around the window.
+QMargins WindowView::Frame() const {
+  return windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+}
+
+/// What frame a window gets is known only once it has it.
+void WindowView::PutWholeOnScreen() {
+  if (!isVisible() || isMinimized() || isMaximized()) return;
+  const QRect room = screen()->availableGeometry();
+  if (room.contains(frameGeometry())) return;
+  const QSize inside = room.marginsRemoved(Frame()).size();
+  if (IsDialog()) {
+    SetScale(ScaleThatFits(DesignPixels(1), inside, Scale()));
+  } else {
+    resize(size().boundedTo(inside));
+  }
+  move(MovedInto(room, QRect(pos(), size().grownBy(Frame()))).topLeft());
 }
 
 void WindowView::LayOut() {
@@ -214,11 +255,20 @@ void WindowView::ApplyExtent() {
 void WindowView::Sync() {
   // Qt would put the program's name in the place of an empty title.
   setWindowTitle(window_.Caption.empty() ? " " : QString::fromStdString(window_.Caption));
-  if (window_.extent != extent_) ApplyExtent();
+  if (window_.extent != extent_ && !MustStayMinimised()) ApplyExtent();
   for (ControlWidget* widget : widgets_) widget->Sync();
 }
 
+/// What comes back from being minimised comes up on top and active on most desktops. So the start
+/// window, which follows the board, waits until it is in front itself.
+bool WindowView::MustStayMinimised() const {
+  return extent_ == Extent::Minimised && desk_.Front() != this;
+}
+
 void WindowView::paintEvent(QPaintEvent* /*event*/) {
+  if (std::exchange(frameIsNew_, false)) {
+    QMetaObject::invokeMethod(this, &WindowView::PutWholeOnScreen, Qt::QueuedConnection);
+  }
   QPainter(this).fillRect(rect(), ToColor(window_.design().ground));
 }
 

@@ -22,9 +22,12 @@ class WindowView : public QWidget {
   const std::vector<ControlWidget*>& widgets() const { return widgets_; }
   ControlWidget* Find(const Control& control) const;
 
-  /// Puts the window on the screen: a dialog centred over its opener and at its scale, another one
-  /// in its place. Without an opener at a size that suits the screen.
+  /// Puts the window on the screen, whole with its frame: a dialog centred over its opener and at
+  /// its scale, but beside what it is to keep clear of; another one in the opener's place. Without
+  /// an opener at a size that suits the screen.
   void Open(const WindowView* opener);
+  /// Makes it the window that the player sees and types into, minimised or covered as it may be.
+  void BringToFront();
   /// Tells the game of a change of size that it could not be told of when it came.
   void TellSizeIfDue();
   /// Carries over what the window's data holds.
@@ -63,9 +66,13 @@ class WindowView : public QWidget {
   QSize DesignPixels(double scale) const;
   void TakePlaceOf(const WindowView& opener);
   void PlaceOnScreen();
-  void CentreOver(const WindowView& opener);
+  void PlaceOver(const WindowView& opener);
+  QRect SpotOf(const Control* control) const;
+  void PutWholeOnScreen();
+  QMargins Frame() const;
   void LayOut();
   void ApplyExtent();
+  bool MustStayMinimised() const;
   void TellSize();
   void Mark(ControlWidget& widget);
   void PressByKey(Key key);
@@ -76,6 +83,7 @@ class WindowView : public QWidget {
   FocusPath focusPath_;
   Extent extent_ = Extent::Normal;  // as the widget shows it
   bool opening_ = false;
+  bool frameIsNew_ = false;  // just opened: its frame is not known yet
   bool sizeTold_ = true;
   bool pressed_ = false;
 };

@@ -80,13 +80,24 @@ TEST_F(OnScreen, WindowsComeUpWhereTheyBelong) {
 
 TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
   StartGame();
-  for (const auto& [state, extent] : {std::pair{Qt::WindowMinimized, Extent::Minimised},
-                                      std::pair{Qt::WindowMaximized, Extent::Maximised},
-                                      std::pair{Qt::WindowNoState, Extent::Normal}}) {
+  const auto put = [this](Qt::WindowState state) {
     View(game.GFM).setWindowState(state);
+    QCoreApplication::processEvents();  // the desktop confirms it
+  };
+  const auto startWindow = [this] { return View(game.GST).windowState() & ~Qt::WindowActive; };
+  for (const auto& [state, extent] : {std::pair{Qt::WindowMaximized, Extent::Maximised},
+                                      std::pair{Qt::WindowNoState, Extent::Normal},
+                                      std::pair{Qt::WindowMinimized, Extent::Minimised}}) {
+    put(state);
     EXPECT_EQ(game.GFM->extent, extent);
-    EXPECT_EQ(View(game.GST).windowState() & ~Qt::WindowActive, state);
+    EXPECT_EQ(startWindow(), state);
   }
+  // It comes back once nothing is in front of it.
+  put(Qt::WindowNoState);
+  EXPECT_EQ(startWindow(), Qt::WindowMinimized);
+  platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDEXIT); });
+  EXPECT_EQ(startWindow(), Qt::WindowNoState);
+  StartGame();
   // Also when it comes while the game holds still for a sound, or after the board was closed so.
   sound->isThere = true;
   sound->whileItPlays = [this](const WaveFile&) {

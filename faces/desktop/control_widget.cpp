@@ -102,10 +102,12 @@ void ControlWidget::SyncOnOpening() {
   TakeOver();
   gone_.stop();
   pressed_ = false;
+  cameUpAt_ = view_.desk().presses;
   setVisible(shown_.visible);
 }
 
 void ControlWidget::BecomeVisible(bool visible) {
+  cameUpAt_ = view_.desk().presses;
   if (!visible) {
     gone_.start(goneForMilliseconds, this);
   } else if (!gone_.isActive()) {
@@ -227,16 +229,23 @@ void ControlWidget::DrawPicture(QPainter& painter, const QRectF& area) const {
 // What the player does.
 
 void ControlWidget::mousePressEvent(QMouseEvent* event) {
+  ++view_.desk().presses;
   if (event->button() != Qt::LeftButton) return;
   pressed_ = true;
+  firstPress_ = 0;
   update();
+}
+
+void ControlWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  mousePressEvent(event);
+  firstPress_ = view_.desk().presses - 1;
 }
 
 void ControlWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !pressed_) return;
   pressed_ = false;
   update();
-  if (rect().contains(event->position().toPoint())) Press();
+  if (rect().contains(event->position().toPoint())) view_.Click(*this, firstPress_);
 }
 
 void ControlWidget::Press() { view_.Click(*this); }

@@ -39,6 +39,8 @@ class ControlWidget : public QWidget {
   bool IsFocusOfItsWindow() const;
   void SetInHand(bool inHand);
   bool IsInHand() const { return inHand_; }
+  /// True if the control was hidden at some time since that press of the mouse (see Desk).
+  bool CameUpSince(int press) const { return cameUpAt_ >= press; }
   /// The same as a click of the mouse.
   void Press();
 
@@ -54,6 +56,7 @@ class ControlWidget : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void enterEvent(QEnterEvent* event) override;
@@ -76,6 +79,8 @@ class ControlWidget : public QWidget {
   Shown shown_;  // as last taken over
   double unit_ = 0;
   bool pressed_ = false;
+  int firstPress_ = 0;  // of a double click whose second press was the last one here; else 0
+  int cameUpAt_ = 0;    // the press after which the control was last shown anew
   bool inHand_ = false;
   QBasicTimer gone_;
   std::optional<FittedText> text_;

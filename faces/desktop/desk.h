@@ -18,9 +18,11 @@ class Desk {
   Desk& operator=(const Desk&) = delete;
   virtual ~Desk() = default;
 
-  /// Hands an event to the game, unless the game is holding still for a sound, and carries what it
-  /// changed over to the windows. False if it was not handed over.
-  virtual bool Deliver(const std::function<void(Surface&)>& event) = 0;
+  /// Hands an event to the game and carries what it changed over to the windows. While the game is
+  /// at work and does not yield, the event is held until it does; of those with the same `subject`
+  /// only the latest.
+  virtual void Deliver(const std::function<void(Surface&)>& event,
+                       const void* subject = nullptr) = 0;
 
   /// The window in front, as the game put them; null while none is shown.
   virtual WindowView* Front() const = 0;
@@ -28,6 +30,10 @@ class Desk {
   Pictures pictures;
   /// The player's last input came from the keyboard, so the focus is to be seen.
   bool usesKeys = false;
+  /// How often a button of the mouse went down on a window so far.
+  int presses = 0;
+  /// How often the game brought a window to the front so far.
+  int fronts = 0;
 };
 
 }  // namespace zelvo

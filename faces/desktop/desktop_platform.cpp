@@ -1,8 +1,10 @@
 #include "faces/desktop/desktop_platform.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QScopedValueRollback>
 #include <QThread>
 #include <QTime>
 #include <QTimer>
@@ -22,12 +24,18 @@ TimeOfDay LocalTime() {
   return {now.hour(), now.minute(), now.second()};
 }
 
+/// Ends a wait for events; may be called from any thread.
+void WakeUp() { QAbstractEventDispatcher::instance(qApp->thread())->wakeUp(); }
+
+/// A cue does not hold the game for longer.
+constexpr std::chrono::seconds longestWait{10};
+
 }  // namespace
 
 Machine ThisMachine(const QString& dataFolder) {
   Machine machine;
   machine.dataFolder = dataFolder;
-  machine.sound = MakeSoundPlayer();
+  machine.sound = MakeSoundPlayer(WakeUp);
   machine.clock = LocalTime;
   machine.leave = QCoreApplication::quit;
   return machine;
@@ -60,9 +68,6 @@ void DesktopPlatform::Sync() {
     syncAgain_ = false;
     OpenAndCloseWindows();
     for (WindowView* view : std::vector<WindowView*>(open_)) view->Sync();
-    if (!waitsForSound_ && !HasEnded() && surface_->IsOpen()) {
-      for (WindowView* view : std::vector<WindowView*>(open_)) view->TellSizeIfDue();
-    }
     const bool newFront = followed_ != surface_->broughtToFront();
     followed_ = surface_->broughtToFront();
     if (newFront && Front() != nullptr) Front()->BringToFront();
@@ -89,11 +94,44 @@ WindowView* DesktopPlatform::Front() const {
   return surface_->Stack().empty() ? nullptr : ViewOf(*surface_->Stack().back());
 }
 
-bool DesktopPlatform::Deliver(const std::function<void(Surface&)>& event) {
-  if (waitsForSound_ || HasEnded()) return false;
+/// Brings what was held to the event loop.
+struct DesktopPlatform::ReleasedEvent : QEvent {
+  explicit ReleasedEvent(Held what) : QEvent(QEvent::User), held(std::move(what)) {}
+  Held held;
+};
+
+bool DesktopPlatform::Listens() const { return !waitsForSound_ && !syncing_ && surface_->IsOpen(); }
+
+void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event, const void* subject) {
+  if (HasEnded()) return;
+  if (!Listens()) {
+    if (subject != nullptr) std::erase_if(held_, [&](Held& h) { return h.subject == subject; });
+    held_.push_back({subject, event});
+    return;
+  }
   event(*surface_);
   Sync();
-  return true;
+  ReleaseHeld();
+}
+
+/// Puts what was held ahead of all that comes next. Each is an event of its own: the game may yield
+/// in the middle of one.
+void DesktopPlatform::ReleaseHeld() {
+  if (HasEnded() || !Listens()) return;
+  for (const Held& held : std::exchange(held_, {})) {
+    QCoreApplication::postEvent(this, new ReleasedEvent(held));
+  }
+  for (const Control* control : std::exchange(heldTicks_, {})) timers_.at(control)->start(0);
+}
+
+void DesktopPlatform::customEvent(QEvent* event) {
+  const Held& held = static_cast<ReleasedEvent*>(event)->held;
+  Deliver(held.event, held.subject);
+}
+
+void DesktopPlatform::ProcessEvents(QEventLoop::ProcessEventsFlags flags) {
+  ReleaseHeld();
+  QCoreApplication::processEvents(flags);
 }
 
 bool DesktopPlatform::eventFilter(QObject* /*object*/, QEvent* event) {
@@ -110,20 +148,20 @@ bool DesktopPlatform::eventFilter(QObject* /*object*/, QEvent* event) {
 
 void DesktopPlatform::Yield() {
   Sync();
-  QCoreApplication::processEvents();
+  ProcessEvents(QEventLoop::AllEvents);
 }
 
 void DesktopPlatform::YieldUntilEvent() {
   Sync();
   // The game is showing something: the player has nothing in hand on that window meanwhile.
   if (Front() != nullptr) Front()->ClearMark();
-  QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  ProcessEvents(QEventLoop::WaitForMoreEvents);
 }
 
 void DesktopPlatform::RunModal(Window& window) {
   while (window.IsShown() && !HasEnded()) {
     Sync();
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    ProcessEvents(QEventLoop::WaitForMoreEvents);
   }
 }
 
@@ -142,6 +180,7 @@ Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
   if (parent != nullptr) box.setFont(ScreenFont(static_cast<int>(13 * parent->Scale()), false));
+  ReleaseHeld();
   const int button = box.exec();
   if (!question) return Answer::Ok;
   return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
@@ -174,6 +213,7 @@ void DesktopPlatform::End() {
 // Timers.
 
 void DesktopPlatform::TimerChanged(Control& control) {
+  heldTicks_.erase(&control);
   auto& timer = timers_[&control];
   if (!timer) {
     timer = std::make_unique<QTimer>();
@@ -188,15 +228,12 @@ void DesktopPlatform::TimerChanged(Control& control) {
 }
 
 void DesktopPlatform::Tick(Control& control) {
-  if (waitsForSound_) {
+  if (HasEnded()) return;
+  if (!Listens()) {
     heldTicks_.insert(&control);
     return;
   }
   QTimer& timer = *timers_.at(&control);
-  if (!HasEnded() && !surface_->IsOpen()) {
-    timer.start(0);  // the dialog that was waited for is gone; the tick comes right behind it
-    return;
-  }
   const int length = machine_.tickLength(control.Interval());
   if (timer.interval() != length) timer.setInterval(length);  // after a held tick
   Deliver([&control](Surface& surface) { surface.Tick(control); });
@@ -210,31 +247,27 @@ std::string DesktopPlatform::AppFolder() {
 }
 
 bool DesktopPlatform::PlaySound(const std::string& path, bool waits) {
-  if (!machine_.sound->IsThere()) return false;
   const std::string name = path.substr(path.rfind('\\') + 1);
   const auto wave = ReadWaveFile(machine_.dataFolder + "/sounds/" + QString::fromStdString(name));
-  if (!wave) return true;
-  machine_.sound->Start(*wave);
-  if (waits) WaitForSound(wave->Length());
-  return true;
+  if (wave) {
+    machine_.sound->Start(*wave);
+    if (waits) WaitForSound(std::min<std::chrono::milliseconds>(wave->Length(), longestWait));
+  }
+  return machine_.sound->IsThere();
 }
 
 /// The game stands still until the sound is over, but its windows are painted. A sound that never
 /// says that it has ended is waited for no longer than its file is long.
-void DesktopPlatform::WaitForSound(std::chrono::milliseconds length) {
+void DesktopPlatform::WaitForSound(std::chrono::milliseconds longest) {
   Sync();
-  waitsForSound_ = true;
+  const QScopedValueRollback waits(waitsForSound_, true);
   QTimer end;
   end.setSingleShot(true);
   end.setTimerType(Qt::PreciseTimer);
-  end.start(length);
-  while (end.isActive() && machine_.sound->IsPlaying() && !HasEnded()) {
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents |
-                                    QEventLoop::WaitForMoreEvents);
+  end.start(longest);
+  while (end.isActive() && machine_.sound->IsPlaying()) {
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
-  waitsForSound_ = false;
-  for (WindowView* view : std::vector<WindowView*>(open_)) view->TellSizeIfDue();
-  for (const Control* control : std::exchange(heldTicks_, {})) timers_.at(control)->start(0);
 }
 
 }  // namespace zelvo

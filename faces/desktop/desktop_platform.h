@@ -1,8 +1,9 @@
 #pragma once
 
+#include <QEventLoop>
 #include <QObject>
 #include <QString>
-#include <array>
+#include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
@@ -58,17 +59,27 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void TimerChanged(Control& timer) override;
   void End() override;
 
-  bool Deliver(const std::function<void(Surface&)>& event) override;
+  void Deliver(const std::function<void(Surface&)>& event, const void* subject = nullptr) override;
   WindowView* Front() const override;
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
+  void customEvent(QEvent* event) override;
 
  private:
+  struct Held {
+    const void* subject;
+    std::function<void(Surface&)> event;
+  };
+  struct ReleasedEvent;
+
   bool HasEnded() const { return surface_ == nullptr || surface_->HasEnded(); }
   void OpenAndCloseWindows();
   void Tick(Control& timer);
-  void WaitForSound(std::chrono::milliseconds length);
+  bool Listens() const;
+  void ReleaseHeld();
+  void ProcessEvents(QEventLoop::ProcessEventsFlags flags);
+  void WaitForSound(std::chrono::milliseconds longest);
 
   Machine machine_;
   Surface* surface_ = nullptr;
@@ -76,7 +87,8 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   std::vector<WindowView*> open_;  // on the screen
   int followed_ = 0;               // of the times that the game brought a window to the front
   std::map<const Control*, std::unique_ptr<QTimer>> timers_;
-  std::set<const Control*> heldTicks_;  // of timers whose time came while a sound was waited for
+  std::vector<Held> held_;              // what came while the game was at work, in its order
+  std::set<const Control*> heldTicks_;  // of timers whose time came meanwhile
   bool waitsForSound_ = false;
   bool syncing_ = false;
   bool syncAgain_ = false;

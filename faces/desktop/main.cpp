@@ -156,8 +156,7 @@ int main(int argc, char** argv) {
   zelvo::Game game(platform);
   platform.Attach(game);
   QTimer::singleShot(0, &platform, [&game, &platform] {
-    game.Start();
-    platform.Sync();
+    platform.Deliver([&game](zelvo::Surface&) { game.Start(); });
   });
   return QCoreApplication::exec();
 }

@@ -1,39 +1,248 @@
 #include "faces/desktop/sound_player.h"
 
-#include <QAudioDevice>
-#include <QAudioSink>
-#include <QBuffer>
-#include <QMediaDevices>
+#include <pulse/pulseaudio.h>
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <utility>
 
 namespace zelvo {
 namespace {
 
-class DevicePlayer : public SoundPlayer {
- public:
-  bool IsThere() override { return !QMediaDevices::defaultAudioOutput().isNull(); }
+using Clock = std::chrono::steady_clock;
 
-  void Start(const WaveFile& wave) override {
-    sink_.reset();  // it reads from the samples
-    samples_.close();
-    samples_.setData(wave.samples);
-    samples_.open(QIODevice::ReadOnly);
-    QAudioFormat format;
-    format.setChannelCount(wave.channels);
-    format.setSampleRate(wave.samplesPerSecond);
-    format.setSampleFormat(wave.bitsPerSample == 8 ? QAudioFormat::UInt8 : QAudioFormat::Int16);
-    sink_ = std::make_unique<QAudioSink>(QMediaDevices::defaultAudioOutput(), format);
-    sink_->start(&samples_);
+struct Order {
+  WaveFile wave;
+  Clock::time_point given;
+};
+
+/// A server that answers only after that time is not to play what belonged to another moment.
+constexpr std::chrono::seconds latestStart{2};
+/// The end of the program waits no longer for a thread that does not come back from the system.
+constexpr std::chrono::seconds longestFarewell{1};
+
+/// What the game and the player's thread share.
+struct Shared {
+  std::mutex mutex;  // never held while the sound server is spoken to
+  std::condition_variable changed;
+  std::function<void()> over;
+  std::optional<Order> order;  // not yet taken
+  bool playing = false;
+  bool there = true;
+  bool leave = false;
+  bool left = false;
+  pa_mainloop* loop = nullptr;  // the thread's, for the game only to wake it up
+};
+
+/// Plays on the sound server what is ordered, in a thread of its own. Nothing in it waits but
+/// the loop, so that a server that does not answer, dies or comes back holds up nobody.
+class Voice {
+ public:
+  explicit Voice(Shared& shared) : shared_(shared) {}
+  Voice(const Voice&) = delete;
+  Voice& operator=(const Voice&) = delete;
+  ~Voice() {
+    CloseStream();
+    CloseContext();
   }
 
-  bool IsPlaying() override { return sink_ && sink_->state() != QAudio::StoppedState; }
+  void Run() {
+    while (TakeOrder()) pa_mainloop_iterate(shared_.loop, 1, nullptr);
+  }
 
  private:
-  QBuffer samples_;
-  std::unique_ptr<QAudioSink> sink_;
+  /// False if there is no more to do.
+  bool TakeOrder() {
+    std::optional<Order> order;
+    {
+      const std::lock_guard lock(shared_.mutex);
+      if (shared_.leave) return false;
+      order = std::exchange(shared_.order, std::nullopt);
+    }
+    if (order) Play(std::move(*order));
+    return true;
+  }
+
+  void Play(Order order) {
+    CloseStream();
+    order_ = std::move(order);
+    written_ = 0;
+    if (context_ != nullptr && pa_context_get_state(context_) == PA_CONTEXT_READY) OpenStream();
+    if (context_ == nullptr || !PA_CONTEXT_IS_GOOD(pa_context_get_state(context_))) Connect();
+  }
+
+  void Finish(bool there) {
+    CloseStream();
+    const std::lock_guard lock(shared_.mutex);
+    shared_.there = there;
+    if (shared_.order) return;  // the next sound plays already, as far as the game knows
+    shared_.playing = false;
+    if (shared_.over) shared_.over();
+  }
+
+  // The connection stays for the next sound.
+
+  void Connect() {
+    CloseContext();
+    pa_proplist* properties = pa_proplist_new();
+    pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "org.zelvo.Zelvo");
+    pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, "org.zelvo.Zelvo");
+    pa_proplist_sets(properties, PA_PROP_MEDIA_ROLE, "game");
+    context_ = pa_context_new_with_proplist(pa_mainloop_get_api(shared_.loop), "Zelvo", properties);
+    pa_proplist_free(properties);
+    pa_context_set_state_callback(
+        context_, [](pa_context*, void* voice) { static_cast<Voice*>(voice)->ContextChanged(); },
+        this);
+    if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) Finish(false);
+  }
+
+  void ContextChanged() {
+    const pa_context_state_t state = pa_context_get_state(context_);
+    if (state == PA_CONTEXT_READY) {
+      wasConnected_ = true;
+      OpenStream();
+    } else if (!PA_CONTEXT_IS_GOOD(state)) {
+      Finish(std::exchange(wasConnected_, false));
+    }
+  }
+
+  void CloseContext() {
+    if (context_ == nullptr) return;
+    pa_context_set_state_callback(context_, nullptr, nullptr);
+    pa_context_disconnect(context_);
+    pa_context_unref(std::exchange(context_, nullptr));
+    wasConnected_ = false;
+  }
+
+  // A stream is open only while a sound is heard.
+
+  void OpenStream() {
+    pa_sample_spec format;
+    format.format = order_.wave.bitsPerSample == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE;
+    format.rate = static_cast<std::uint32_t>(order_.wave.samplesPerSecond);
+    format.channels = static_cast<std::uint8_t>(order_.wave.channels);
+    stream_ = pa_stream_new(context_, "Sound", &format, nullptr);
+    if (stream_ == nullptr) return Finish(true);
+    pa_stream_set_state_callback(
+        stream_, [](pa_stream*, void* voice) { static_cast<Voice*>(voice)->StreamChanged(); },
+        this);
+    pa_stream_set_write_callback(
+        stream_,
+        [](pa_stream*, std::size_t room, void* voice) { static_cast<Voice*>(voice)->Write(room); },
+        this);
+    pa_stream_connect_playback(stream_, nullptr, nullptr, PA_STREAM_NOFLAGS, nullptr, nullptr);
+  }
+
+  void StreamChanged() {
+    const pa_stream_state_t state = pa_stream_get_state(stream_);
+    const bool late = Clock::now() > order_.given + latestStart;
+    if (state == PA_STREAM_READY && late) return Finish(true);
+    if (!PA_STREAM_IS_GOOD(state)) Finish(pa_context_errno(context_) != PA_ERR_NOENTITY);
+  }
+
+  void Write(std::size_t room) {
+    const QByteArray& samples = order_.wave.samples;
+    const std::size_t frame = pa_frame_size(pa_stream_get_sample_spec(stream_));
+    const std::size_t rest = static_cast<std::size_t>(samples.size()) - written_;
+    const std::size_t count = std::min(room - room % frame, rest);
+    pa_stream_write(stream_, samples.constData() + written_, count, nullptr, 0, PA_SEEK_RELATIVE);
+    written_ += count;
+    if (count == rest) Drain();
+  }
+
+  void Drain() {
+    pa_stream_set_write_callback(stream_, nullptr, nullptr);
+    drain_ = pa_stream_drain(
+        stream_, [](pa_stream*, int, void* voice) { static_cast<Voice*>(voice)->Drained(); }, this);
+    if (drain_ == nullptr) Finish(true);
+  }
+
+  void Drained() {
+    pa_operation_unref(std::exchange(drain_, nullptr));
+    Finish(true);
+  }
+
+  void CloseStream() {
+    if (stream_ == nullptr) return;
+    if (drain_ != nullptr) {
+      pa_operation_cancel(drain_);
+      pa_operation_unref(std::exchange(drain_, nullptr));
+    }
+    pa_stream_set_state_callback(stream_, nullptr, nullptr);
+    pa_stream_set_write_callback(stream_, nullptr, nullptr);
+    pa_stream_disconnect(stream_);
+    pa_stream_unref(std::exchange(stream_, nullptr));
+  }
+
+  Shared& shared_;
+  pa_context* context_ = nullptr;
+  pa_stream* stream_ = nullptr;
+  pa_operation* drain_ = nullptr;  // tells when all that was written has been heard
+  bool wasConnected_ = false;
+  Order order_;
+  std::size_t written_ = 0;  // bytes of the order's samples
+};
+
+void RunVoice(const std::shared_ptr<Shared>& shared) {
+  Voice(*shared).Run();
+  const std::lock_guard lock(shared->mutex);
+  pa_mainloop_free(std::exchange(shared->loop, nullptr));
+  shared->left = true;
+  shared->changed.notify_all();
+}
+
+class ServerPlayer : public SoundPlayer {
+ public:
+  explicit ServerPlayer(std::function<void()> over) { shared_->over = std::move(over); }
+
+  ~ServerPlayer() override {
+    if (!thread_.joinable()) return;
+    std::unique_lock lock(shared_->mutex);
+    shared_->over = nullptr;
+    shared_->leave = true;
+    pa_mainloop_wakeup(shared_->loop);
+    const bool left =
+        shared_->changed.wait_for(lock, longestFarewell, [this] { return shared_->left; });
+    lock.unlock();
+    left ? thread_.join() : thread_.detach();
+  }
+
+  void Start(const WaveFile& wave) override {
+    const std::lock_guard lock(shared_->mutex);
+    shared_->order = {wave, Clock::now()};
+    shared_->playing = true;
+    if (thread_.joinable()) {
+      pa_mainloop_wakeup(shared_->loop);
+    } else {
+      shared_->loop = pa_mainloop_new();
+      thread_ = std::thread(RunVoice, shared_);
+    }
+  }
+
+  bool IsPlaying() override {
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->playing;
+  }
+
+  bool IsThere() override {
+    const std::lock_guard lock(shared_->mutex);
+    return shared_->there;
+  }
+
+ private:
+  // The thread has its part in it, should it outlive the player.
+  std::shared_ptr<Shared> shared_ = std::make_shared<Shared>();
+  std::thread thread_;
 };
 
 }  // namespace
 
-std::unique_ptr<SoundPlayer> MakeSoundPlayer() { return std::make_unique<DevicePlayer>(); }
+std::unique_ptr<SoundPlayer> MakeSoundPlayer(std::function<void()> over) {
+  return std::make_unique<ServerPlayer>(std::move(over));
+}
 
 }  // namespace zelvo

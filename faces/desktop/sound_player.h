@@ -1,12 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "faces/desktop/wave_file.h"
 
 namespace zelvo {
 
-/// What makes a sound heard.
+/// What makes a sound heard. None of its functions waits for the machine.
 class SoundPlayer {
  public:
   SoundPlayer() = default;
@@ -14,15 +15,16 @@ class SoundPlayer {
   SoundPlayer& operator=(const SoundPlayer&) = delete;
   virtual ~SoundPlayer() = default;
 
-  /// False if the machine has nothing to play on.
-  virtual bool IsThere() = 0;
-  /// Starts a sound and returns at once; one that plays is cut off.
+  /// Starts a sound; one that plays is cut off.
   virtual void Start(const WaveFile& wave) = 0;
   /// False once nothing more can be heard.
   virtual bool IsPlaying() = 0;
+  /// False once a sound found that the machine has nothing to play it on.
+  virtual bool IsThere() = 0;
 };
 
-/// The machine's own output. It is looked for at the first question, since that takes a while.
-std::unique_ptr<SoundPlayer> MakeSoundPlayer();
+/// A player on the machine's sound server. It calls `over`, from a thread of its own, when a sound
+/// is over or cannot be heard.
+std::unique_ptr<SoundPlayer> MakeSoundPlayer(std::function<void()> over);
 
 }  // namespace zelvo

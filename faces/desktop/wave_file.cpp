@@ -1,6 +1,7 @@
 #include "faces/desktop/wave_file.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QtEndian>
 #include <algorithm>
 
@@ -30,15 +31,17 @@ QByteArray Chunk(const QByteArray& file, const char* name) {
 }  // namespace
 
 std::chrono::milliseconds WaveFile::Length() const {
-  const qsizetype bytesPerSecond = qsizetype{samplesPerSecond} * channels * (bitsPerSample / 8);
-  return std::chrono::milliseconds(samples.size() * 1000 / bytesPerSecond);
+  return std::chrono::milliseconds(samples.size() / BytesPerFrame() * 1000 / samplesPerSecond);
 }
 
 std::optional<WaveFile> ReadWaveFile(const QString& path) {
   constexpr int uncompressed = 1;
+  // Opening a pipe or a device could wait for ever, and reading one never end.
+  if (!QFileInfo(path).isFile()) return std::nullopt;
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly) || file.size() > largestFile) return std::nullopt;
-  const QByteArray bytes = file.readAll();
+  if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+  const QByteArray bytes = file.read(largestFile + 1);
+  if (bytes.size() > largestFile) return std::nullopt;
   if (bytes.left(4) != "RIFF" || bytes.mid(8, 4) != "WAVE") return std::nullopt;
   const QByteArray format = Chunk(bytes, "fmt ");
   if (format.size() < 16 || NumberAt<quint16>(format, 0) != uncompressed) return std::nullopt;
@@ -47,8 +50,9 @@ std::optional<WaveFile> ReadWaveFile(const QString& path) {
   const bool sound = (wave.channels == 1 || wave.channels == 2) &&
                      (wave.bitsPerSample == 8 || wave.bitsPerSample == 16) &&
                      wave.samplesPerSecond >= 1'000 && wave.samplesPerSecond <= 192'000 &&
-                     !wave.samples.isEmpty();
+                     wave.samples.size() >= wave.BytesPerFrame();
   if (!sound) return std::nullopt;
+  wave.samples.chop(wave.samples.size() % wave.BytesPerFrame());
   return wave;
 }
 

@@ -12,12 +12,15 @@ struct WaveFile {
   int channels = 0;
   int samplesPerSecond = 0;
   int bitsPerSample = 0;  ///< 8 or 16
-  QByteArray samples;
+  QByteArray samples;     ///< whole frames
 
+  /// A frame is what sounds at one time: a sample for each channel.
+  int BytesPerFrame() const { return channels * bitsPerSample / 8; }
   std::chrono::milliseconds Length() const;
 };
 
-/// Reads a wave file; nothing if it is missing, broken, compressed or silent for lack of samples.
+/// Reads a wave file; nothing if it is missing, no regular
+/// file, broken, compressed or silent for lack of samples.
 std::optional<WaveFile> ReadWaveFile(const QString& path);
 
 }  // namespace zelvo

@@ -139,6 +139,7 @@ void WindowView::Open(const WindowView* opener) {
 }
 
 void WindowView::BringToFront() {
+  ++desk_.fronts;
   setWindowState(windowState() & ~Qt::WindowMinimized);
   raise();
   activateWindow();
@@ -232,14 +233,7 @@ void WindowView::changeEvent(QEvent* event) {
 }
 
 void WindowView::TellSize() {
-  sizeTold_ = false;
-  desk_.Deliver([this](Surface& surface) {
-    sizeTold_ = surface.Resize(window_, extent_) || !window_.IsShown();
-  });
-}
-
-void WindowView::TellSizeIfDue() {
-  if (!sizeTold_) TellSize();
+  desk_.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); }, this);
 }
 
 void WindowView::ApplyExtent() {
@@ -294,21 +288,32 @@ void WindowView::PressByKey(Key key) {
 }
 
 void WindowView::mouseMoveEvent(QMouseEvent* /*event*/) {
-  desk_.Deliver([this](Surface& surface) { surface.Hover(window_); });
+  desk_.Deliver([this](Surface& surface) { surface.Hover(window_); }, &desk_);
 }
 
 void WindowView::mousePressEvent(QMouseEvent* event) {
+  ++desk_.presses;
   if (event->button() == Qt::LeftButton) pressed_ = true;
 }
 
 void WindowView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() != Qt::LeftButton || !std::exchange(pressed_, false)) return;
   if (!rect().contains(event->position().toPoint())) return;
-  desk_.Deliver([this](Surface& surface) { surface.Click(window_); });
+  DeliverClick([this](Surface& surface) { surface.Click(window_); });
 }
 
-void WindowView::Click(ControlWidget& widget) {
-  desk_.Deliver([this, &widget](Surface& surface) {
+/// A click that was held while the game was at work is for what the player saw then. Clicks out of
+/// impatience on "Start Game" are to start one game.
+void WindowView::DeliverClick(const std::function<void(Surface&)>& click) {
+  desk_.Deliver([this, click, fronts = desk_.fronts](Surface& surface) {
+    if (fronts == desk_.fronts) click(surface);
+  });
+}
+
+void WindowView::Click(ControlWidget& widget, int first) {
+  DeliverClick([this, &widget, first](Surface& surface) {
+    // Who clicks twice has not seen what came up in between, such as the button that ends the turn.
+    if (first != 0 && widget.CameUpSince(first)) return;
     if (surface.Click(widget.control())) Mark(widget);
   });
 }
@@ -327,7 +332,7 @@ void WindowView::ClearMark() {
 }
 
 void WindowView::Hover(ControlWidget& widget) {
-  desk_.Deliver([&widget](Surface& surface) { surface.Hover(widget.control()); });
+  desk_.Deliver([&widget](Surface& surface) { surface.Hover(widget.control()); }, &desk_);
 }
 
 // The keyboard's way.

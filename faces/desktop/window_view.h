@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QWidget>
+#include <functional>
 #include <vector>
 
 #include "faces/desktop/control_widget.h"
@@ -28,8 +29,6 @@ class WindowView : public QWidget {
   void Open(const WindowView* opener);
   /// Makes it the window that the player sees and types into, minimised or covered as it may be.
   void BringToFront();
-  /// Tells the game of a change of size that it could not be told of when it came.
-  void TellSizeIfDue();
   /// Carries over what the window's data holds.
   void Sync();
   /// 1 is the design size at 96 dpi.
@@ -40,7 +39,8 @@ class WindowView : public QWidget {
 
   // What the widgets report.
 
-  void Click(ControlWidget& widget);
+  /// `first` is the press of the mouse that this click makes a double click with, 0 if it does not.
+  void Click(ControlWidget& widget, int first = 0);
   void Hover(ControlWidget& widget);
   void FocusCame(ControlWidget& widget, Qt::FocusReason reason);
   FocusPath& focusPath() { return focusPath_; }
@@ -74,6 +74,7 @@ class WindowView : public QWidget {
   void ApplyExtent();
   bool MustStayMinimised() const;
   void TellSize();
+  void DeliverClick(const std::function<void(Surface&)>& click);
   void Mark(ControlWidget& widget);
   void PressByKey(Key key);
 
@@ -84,7 +85,6 @@ class WindowView : public QWidget {
   Extent extent_ = Extent::Normal;  // as the widget shows it
   bool opening_ = false;
   bool frameIsNew_ = false;  // just opened: its frame is not known yet
-  bool sizeTold_ = true;
   bool pressed_ = false;
 };
 

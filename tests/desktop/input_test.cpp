@@ -51,6 +51,32 @@ TEST_F(Input, AClickThatCannotBeTakenIsDropped) {
   EXPECT_EQ(game.CurLot, other);
 }
 
+TEST_F(Input, TheSecondClickOfADoubleClickDoesNotReachWhatWasHiddenSinceTheFirst) {
+  StartGame();
+  const auto doubleClick = [this](Control& control) {
+    WindowView& window = View(control.window());
+    QTest::mouseDClick(window.windowHandle(), Qt::LeftButton, {},
+                       Widget(control).geometry().center());
+  };
+  doubleClick(game.GFM->Label1);
+  EXPECT_EQ(game.SkillLevel, 2);
+  for (int turn = 1; turn <= 3; ++turn) {
+    doubleClick(game.GFM->CMDGO);
+    EXPECT_EQ(game.TurnNo, turn);
+  }
+  // Also where both clicks had to wait for a sound.
+  sound->isThere = true;
+  sound->looksWhilePlaying = 1;
+  QTimer later;
+  later.setSingleShot(true);
+  QObject::connect(&later, &QTimer::timeout, [&] { doubleClick(game.GFM->CMDGO); });
+  later.start(0);
+  platform.PlaySound(game.AppPath + "CLICK.WAV", true);
+  EXPECT_EQ(game.TurnNo, 3);
+  for (int look = 0; look < 3; ++look) game.Yield();
+  EXPECT_EQ(game.TurnNo, 4);
+}
+
 TEST_F(Input, OptionsFormAGroupAndBoxesAreTicked) {
   OnceShown(game.ICF, [this] {
     Press(game.ICF->OPT1[2]);

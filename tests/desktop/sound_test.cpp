@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <tuple>
 
 #include "game/start.h"
 #include "presentation/cues.h"
@@ -14,7 +16,11 @@ namespace {
 
 class Sound : public testing::Test, public DesktopGame {
  protected:
-  Sound() { sound->isThere = true; }
+  Sound() {
+    sound->isThere = true;
+    sound->started = 0;
+    game.SoundOn = true;
+  }
 };
 
 TEST_F(Sound, EveryCueStartsItsFileAndARunningOneIsNotWaitedFor) {
@@ -35,40 +41,65 @@ TEST_F(Sound, AMissingFileIsNoFailureButAMissingPlayerIs) {
   EXPECT_FALSE(game.SoundOn);
 }
 
-TEST_F(Sound, NothingHappensWhileTheGameWaitsForASound) {
+TEST_F(Sound, WhatHappensWhileTheGameWaitsForItComesAfterIt) {
   StartGame();
-  platform.Yield();
+  game.Yield();
   game.Work = 0;
   game.GFM->Timer1.SetInterval(10);
   game.GFM->Timer1.SetEnabled(true);
   const int lot = game.CurLot;
+  const int other = (lot + 1) % lotCount;
   bool painted = false;
   sound->looksWhilePlaying = 3;
   QTimer later;  // fires in the wait, after the game's timer
   later.setSingleShot(true);
   QObject::connect(&later, &QTimer::timeout, [&] {
-    QTest::mouseClick(&Widget(game.GFM->Image1[(lot + 1) % lotCount]), Qt::LeftButton);
-    QTest::keyClick(&View(game.GFM), Qt::Key_Return);
-    View(game.GFM).close();
+    QTest::mouseClick(&Widget(game.GFM->Image1[other]), Qt::LeftButton);
+    QTest::keyClick(&Widget(game.GFM->Label1), Qt::Key_Return);
+    View(game.GFM).setWindowState(Qt::WindowMaximized);
+    View(game.RB).close();
     painted = Widget(game.GFM->PSHOW).Text().text == "Wait";
     // The time of the game's timer has come once; it will not come again.
     tickLength = 1'000'000;
-    game.GFM->Timer1.SetInterval(10);
   });
   sound->whileItPlays = [&later](const WaveFile& /*wave*/) { later.start(0); };
   game.GFM->PSHOW.Caption = "Wait";
+  Exhibit(game.RB);
   EXPECT_TRUE(platform.PlaySound(game.AppPath + "CLICK.WAV", true));
-  EXPECT_EQ(game.CurLot, lot);
-  EXPECT_EQ(game.Work, 0);
-  EXPECT_TRUE(painted && game.GFM.Untouched().IsShown());
-  // The tick that fell into the wait comes after it, once.
-  platform.Yield();
-  platform.Yield();
-  EXPECT_EQ(game.Work, 1);
+  EXPECT_TRUE(painted);
+  EXPECT_TRUE(game.RB.Untouched().IsShown());
+  EXPECT_EQ(std::tuple(game.CurLot, game.SkillLevel, game.Work), std::tuple(lot, 0, 0));
+  EXPECT_EQ(game.GST->extent, Extent::Normal);
+  for (int look = 0; look < 3; ++look) game.Yield();
+  EXPECT_FALSE(game.RB.Untouched().IsShown());
+  EXPECT_EQ(std::tuple(game.CurLot, game.SkillLevel, game.Work), std::tuple(other, 1, 1));
+  EXPECT_EQ(game.GST->extent, Extent::Maximised);
+}
+
+TEST_F(Sound, ImpatientClicksWhileItSoundsStartOneGame) {
+  sound->looksWhilePlaying = 1;
+  QTimer later;
+  later.setSingleShot(true);
+  QObject::connect(&later, &QTimer::timeout, [this] {
+    for (int click = 0; click < 3; ++click) {
+      QTest::mouseClick(&Widget(game.GST->CMDSTART), Qt::LeftButton);
+    }
+    sound->whileItPlays = nullptr;
+  });
+  sound->whileItPlays = [&later](const WaveFile& /*wave*/) { later.start(0); };
+  platform.PlaySound(game.AppPath + "ZELVO.WAV", true);
+  sound->started = 0;
+  for (int look = 0; look < 3; ++look) game.Yield();
+  EXPECT_EQ(sound->started, 1);
 }
 
 TEST(WaveFiles, SayHowLongTheyAre) {
   QTemporaryDir folder;
+  const QString pipe = folder.filePath("pipe");
+  ASSERT_EQ(mkfifo(pipe.toLocal8Bit(), 0600), 0);
+  for (const QString& other : {pipe, folder.path(), QString("/dev/zero"), QString("/dev/full")}) {
+    EXPECT_FALSE(ReadWaveFile(other)) << other.toStdString();
+  }
   const auto length = [&folder](const QByteArray& bytes) -> long {
     QFile file(folder.filePath("a.wav"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
@@ -90,6 +121,10 @@ TEST(WaveFiles, SayHowLongTheyAre) {
   // A header that promises more than there is does not make the sound longer.
   EXPECT_EQ(length(good.left(44 + 4'000)), 500);
   EXPECT_EQ(length(with(40, "\xff\xff\xff\xff")), 1'000);
+  // Two bytes a frame, so that the last sample is alone.
+  const QByteArray wide = with(34, QByteArray("\x10"));
+  EXPECT_EQ(length(wide + '\1'), 500);
+  EXPECT_EQ(length(wide.left(45)), -1);
   // Nothing, no samples, a cut in the header, another format, compressed, no channels, no rate,
   // an odd depth
   for (const QByteArray& broken :

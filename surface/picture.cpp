@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cstddef>
 
 namespace zelvo {
@@ -65,6 +64,12 @@ constexpr std::array<Row, static_cast<std::size_t>(PictureId::Count)> rows = {{
     {"ABT.Image1", "hotel with a golden crown"},
 }};
 
+/// The same in every language of the system.
+char LowerCase(char letter) {
+  const bool upper = letter >= 'A' && letter <= 'Z';
+  return upper ? static_cast<char>(letter - 'A' + 'a') : letter;
+}
+
 const Row& RowOf(PictureId picture) { return rows.at(static_cast<std::size_t>(picture)); }
 
 }  // namespace
@@ -87,7 +92,7 @@ std::string PictureFile(PictureId picture) {
     if (c == '.' || c == '(') {
       file += '-';
     } else if (c != ')') {
-      file += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+      file += LowerCase(c);
     }
   }
   return file + ".svg";

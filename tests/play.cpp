@@ -2,9 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <sstream>
 
 namespace zelvo::test {
+namespace {
+
+/// The rules run in the player's language, as in the desktop program.
+[[maybe_unused]] const char* const language = std::setlocale(LC_ALL, "");
+
+}  // namespace
 
 std::vector<Json> Play(const std::string& script) { return Scripted(script).Lines(); }
 

@@ -43,6 +43,8 @@ Machine ThisMachine(const QString& dataFolder) {
 
 DesktopPlatform::DesktopPlatform(Machine machine)
     : Desk(machine.dataFolder + "/pictures"), machine_(std::move(machine)) {
+  // The game's windows have one design and their texts one language, whatever the system's is.
+  QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   DescribeControlsToHelpers();
   qApp->installEventFilter(this);
 }

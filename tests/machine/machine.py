@@ -83,9 +83,9 @@ class Machine:
     def start(self, *command, **options):
         """Starts a program of the machine; it ends with the machine."""
         log = open(self.folder / f"{len(self.processes)}-{pathlib.Path(command[0]).name}.log", "wb")
-        options = {"stdin": subprocess.DEVNULL, "stdout": log, "stderr": log, **options}
-        process = subprocess.Popen(command, env=self.environment, cwd=self.folder,
-                                   start_new_session=True, **options)
+        options = {"stdin": subprocess.DEVNULL, "stdout": log, "stderr": log,
+                   "env": self.environment, **options}
+        process = subprocess.Popen(command, cwd=self.folder, start_new_session=True, **options)
         process.log = pathlib.Path(log.name)
         log.close()
         self.processes.append(process)
@@ -149,9 +149,10 @@ class Machine:
         game.window("Zelvo 32")
         return game
 
-    def launch(self, *arguments):
+    def launch(self, *arguments, environment=None):
         """Starts the game and waits for nothing."""
-        return Game(self, self.start(str(BUILD / "zelvo"), *arguments))
+        return Game(self, self.start(str(BUILD / "zelvo"), *arguments,
+                                     env={**self.environment, **(environment or {})}))
 
 
 class Game:
@@ -237,6 +238,22 @@ class Game:
 
     def wait_until_gone(self, window):
         wait_until(lambda: window not in self.windows(), f"window {window} goes")
+
+    def still_screen(self, expected=None):
+        """The screen once it changes no more; or once it is the expected one."""
+        seen, times = None, 0
+
+        def is_still():
+            nonlocal seen, times
+            self.must_run()
+            last, seen = seen, self.machine.screenshot()
+            times = times + 1 if seen == last else 0
+            return seen == expected if expected else times == 40
+        wait_until(is_still, "the screen is as it was before" if expected else "a still screen")
+        return seen
+
+    def end(self):
+        end(self.process)
 
     def must_run(self):
         if self.process.poll() is not None:

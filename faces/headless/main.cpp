@@ -5,39 +5,49 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "faces/game_file.h"
 #include "faces/headless/stream_game.h"
+#include "faces/kept_game.h"
 #include "faces/standard_streams.h"
 
 namespace {
 
 using zelvo::Complain;
+using zelvo::failure;
 using zelvo::PrintAnswer;
 using zelvo::WithReason;
 
 constexpr const char* program = "zelvo-headless";
 
 constexpr char help[] =
-    "Usage: zelvo-headless [SCRIPT]\n"
+    "Usage: zelvo-headless [--game FILE] [SCRIPT]\n"
     "Plays the game without a screen: reads a command a line from the file SCRIPT, or from "
     "standard\n"
     "input, and prints a line of JSON each time the game waits for the player.\n"
     "\n"
     "Options:\n"
-    "  -h, --help     Displays this help.\n"
-    "  -v, --version  Displays version information.\n";
+    "  -g, --game FILE  Begins where the game kept in FILE stands.\n"
+    "  -h, --help       Displays this help.\n"
+    "  -v, --version    Displays version information.\n";
 
 struct Call {
   const char* script = nullptr;  // null for standard input
+  const char* game = nullptr;    // null for a new one
 };
 
 /// Reads the command line. Returns an exit status if it leaves nothing to play.
 std::optional<int> ReadCall(int argc, char** argv, Call& call) {
-  static constexpr option options[] = {{"help", no_argument, nullptr, 'h'},
+  static constexpr option options[] = {{"game", required_argument, nullptr, 'g'},
+                                       {"help", no_argument, nullptr, 'h'},
                                        {"version", no_argument, nullptr, 'v'},
                                        {nullptr, 0, nullptr, 0}};
-  for (int option = 0; (option = getopt_long(argc, argv, "hv", options, nullptr)) != -1;) {
+  for (int option = 0; (option = getopt_long(argc, argv, "g:hv", options, nullptr)) != -1;) {
     switch (option) {
+      case 'g':
+        call.game = optarg;
+        break;
       case 'h':
         return PrintAnswer(program, help);
       case 'v':
@@ -54,13 +64,26 @@ std::optional<int> ReadCall(int argc, char** argv, Call& call) {
   return std::nullopt;
 }
 
-int Play(std::istream& commands, const std::string& name) {
+/// Reads and tries a kept game. Returns an exit status if it cannot be gone on with.
+std::optional<int> ReadGame(const std::string& file, zelvo::GameList& list) {
+  const auto [text, error] = zelvo::ReadFile(file);
+  if (error != 0) return Complain(program, WithReason(file + " cannot be read", error), failure);
+  zelvo::KeptGame kept = zelvo::ReadKeptGame(text);
+  if (!kept.error.empty()) {
+    return Complain(program, file + " cannot be played: " + kept.error, failure);
+  }
+  list = std::move(kept.list);
+  return std::nullopt;
+}
+
+int Play(zelvo::GameList list, std::istream& commands, const std::string& name) {
   zelvo::StreamGame game(commands, std::cout);
+  game.GoOn(std::move(list));
   const int error = game.PlayScript();
   if (error == 0) return zelvo::success;
   const std::string what =
       commands.bad() ? name + " cannot be read" : "standard output cannot be written";
-  return Complain(program, WithReason(what, error), zelvo::failure);
+  return Complain(program, WithReason(what, error), failure);
 }
 
 }  // namespace
@@ -71,11 +94,15 @@ int main(int argc, char** argv) {
   std::cin.tie(nullptr);
   Call call;
   if (const auto status = ReadCall(argc, argv, call)) return *status;
-  if (call.script == nullptr) return Play(std::cin, "standard input");
+  zelvo::GameList list;
+  if (call.game != nullptr) {
+    if (const auto status = ReadGame(call.game, list)) return *status;
+  }
+  if (call.script == nullptr) return Play(std::move(list), std::cin, "standard input");
   std::ifstream script(call.script);
   const std::string name = call.script;
   if (!script) {
-    return Complain(program, WithReason(name + " cannot be read", errno), zelvo::failure);
+    return Complain(program, WithReason(name + " cannot be read", errno), failure);
   }
-  return Play(script, name);
+  return Play(std::move(list), script, name);
 }

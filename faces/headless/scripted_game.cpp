@@ -6,7 +6,9 @@
 
 #include "faces/headless/json_text.h"
 #include "faces/headless/properties.h"
+#include "faces/headless/state.h"
 #include "faces/headless/variables.h"
+#include "faces/kept_game.h"
 #include "game/text.h"
 
 namespace zelvo {
@@ -68,14 +70,17 @@ std::string ClockText(std::int64_t millisecondOfDay) {
          ':' + Digits(millisecondOfDay / 1000 % 60, 2) + '.' + Digits(millisecondOfDay % 1000, 3);
 }
 
-std::string_view NameOf(WindowState state) {
-  return state == WindowState::Shown ? "shown" : "hidden";
-}
-
 }  // namespace
 
+void ScriptedGame::GoOn(GameList list) {
+  for (const Entry& entry : list) {
+    if (entry.kind == Entry::Kind::Clock) time().SetWallClock(entry.time);
+  }
+  played_ = std::move(list);
+}
+
 void ScriptedGame::Run() {
-  game_.Start();
+  journal_.Start(std::move(played_));
   while (!game_.HasEnded()) WaitForPlayer();
 }
 
@@ -154,8 +159,9 @@ std::string ScriptedGame::Execute(std::string_view line) {
     std::string_view verb;
     std::string (ScriptedGame::*execute)(std::string_view rest);
   };
-  static constexpr std::array<Command, 8> commands = {{
+  static constexpr std::array<Command, 9> commands = {{
       {"answer", &ScriptedGame::ExecuteAnswer},
+      {"keep", &ScriptedGame::ExecuteKeep},
       {"wait", &ScriptedGame::ExecuteWait},
       {"clock", &ScriptedGame::ExecuteClock},
       {"later", &ScriptedGame::ExecuteLater},
@@ -242,12 +248,24 @@ std::string ScriptedGame::ExecuteClock(std::string_view rest) {
 
 std::string ScriptedGame::ExecuteSet(std::string_view rest) {
   const std::string_view name = TakeWord(rest);
-  if (const auto variable = FindVariable(name)) return WriteVariable(game_, *variable, rest);
+  std::string error = SetValue(name, rest);
+  if (error.empty()) wasSet_ = true;
+  return error;
+}
+
+std::string ScriptedGame::SetValue(std::string_view name, std::string_view value) {
+  if (const auto variable = FindVariable(name)) return WriteVariable(game_, *variable, value);
   PropertyPath path;
   std::string error = FindProperty(game_, name, path);
   if (!error.empty()) return error;
-  return path.control == nullptr ? ReadQuoted(rest, path.window->Caption)
-                                 : WriteProperty(*path.control, path.property, rest);
+  return path.control == nullptr ? ReadQuoted(value, path.window->Caption)
+                                 : WriteProperty(*path.control, path.property, value);
+}
+
+std::string ScriptedGame::ExecuteKeep(std::string_view rest) {
+  if (rest.empty()) return "keep needs the name of a file";
+  if (wasSet_) return "something was set, which no player can do: there is no list of such a game";
+  return WriteFile(std::string(rest), TextOf(game_, journal_.list()));
 }
 
 std::string ScriptedGame::ExecuteGet(std::string_view rest) {
@@ -272,7 +290,7 @@ std::string ScriptedGame::ExecuteGet(std::string_view rest) {
 
 std::string ScriptedGame::ExecuteState(std::string_view rest) {
   if (!rest.empty()) return "state takes nothing more";
-  reply_ = ",\"state\":" + StateAsJson();
+  reply_ = ",\"state\":" + StateAsJson(game_);
   return "";
 }
 
@@ -282,26 +300,6 @@ std::string ScriptedGame::ExecuteQuit(std::string_view rest) {
   leaving_ = true;
   game_.End();
   return "";
-}
-
-std::string ScriptedGame::StateAsJson() {
-  std::string windows;
-  std::string controls;
-  for (const Window* window : game_.Windows()) {
-    if (!window->IsLoaded()) continue;
-    windows.append(windows.empty() ? "" : ",").append(Quoted(window->name()));
-    windows.append(":{\"state\":").append(Quoted(NameOf(window->state())));
-    windows.append(",\"Caption\":").append(Quoted(window->Caption)).append("}");
-    for (const Control* control : window->controls()) {
-      std::string name(window->name());
-      name.append(".").append(control->FullName());
-      controls.append(controls.empty() ? "" : ",").append(Quoted(name)).append(":");
-      controls += PropertiesAsJson(*control);
-    }
-  }
-  return "{\"variables\":" + VariablesAsJson(game_) + ",\"windows\":{" + windows +
-         "},\"controls\":{" + controls +
-         "},\"pointer\":" + std::to_string(static_cast<int>(game_.pointer())) + "}";
 }
 
 }  // namespace zelvo

@@ -8,6 +8,7 @@
 #include "faces/deed.h"
 #include "faces/headless/virtual_platform.h"
 #include "game/game.h"
+#include "journal/journal.h"
 
 namespace zelvo {
 
@@ -16,10 +17,15 @@ namespace zelvo {
 /// everywhere. Where they come from and go to is left open.
 class ScriptedGame : public VirtualPlatform {
  public:
+  ScriptedGame() { journal_.Attach(game_); }
+
+  /// Has `Run` begin with a kept game, which must fit. Virtual time goes on from its last clock.
+  void GoOn(GameList list);
   /// Starts the program and plays to the end of the script or of the program.
   void Run();
 
   Game& game() { return game_; }
+  const Journal& journal() const { return journal_; }
 
   Answer MessageBox(const std::string& text, MessageStyle style, const std::string& title) override;
   bool PlaySound(const std::string& path, bool waits) override;
@@ -31,6 +37,8 @@ class ScriptedGame : public VirtualPlatform {
   virtual bool NextCommand(std::string& command) = 0;
   /// Takes a line of the answer, without its end.
   virtual void Print(const std::string& line) = 0;
+  /// Puts a text into a file. Returns why not, in plain words; empty if it is there.
+  virtual std::string WriteFile(const std::string& path, const std::string& text) = 0;
 
   static constexpr std::size_t longestCommand = 65'536;
 
@@ -53,6 +61,7 @@ class ScriptedGame : public VirtualPlatform {
   std::string Execute(std::string_view line);
   std::string ExecuteDeed(std::string_view verb, std::string_view rest);
   std::string ExecuteAnswer(std::string_view rest);
+  std::string ExecuteKeep(std::string_view rest);
   std::string ExecuteWait(std::string_view rest);
   std::string ExecuteClock(std::string_view rest);
   std::string ExecuteLater(std::string_view rest);
@@ -63,14 +72,17 @@ class ScriptedGame : public VirtualPlatform {
 
   /// Reads a click, hover or close; `error` says why it is none.
   std::optional<Deed> ReadCommand(std::string_view verb, std::string_view rest, std::string& error);
-  std::string StateAsJson();
+  std::string SetValue(std::string_view name, std::string_view value);
 
   std::vector<Deed> held_;              // for the next yield
   std::vector<OpenMessage*> messages_;  // innermost last
   std::string cues_;                    // JSON objects of the cues since the last line
   std::string reply_;                   // JSON members that the last command adds to its line
   bool leaving_ = false;                // the script is over, not the program
-  Game game_{*this};
+  bool wasSet_ = false;                 // the game holds what is in no list
+  GameList played_;                     // the kept game to begin with
+  Journal journal_{*this};
+  Game game_{journal_};
 };
 
 }  // namespace zelvo

@@ -2,7 +2,10 @@
 
 #include <cerrno>
 #include <string_view>
+#include <system_error>
 #include <utility>
+
+#include "faces/game_file.h"
 
 namespace zelvo {
 
@@ -34,6 +37,11 @@ bool StreamGame::NextCommand(std::string& command) {
 }
 
 void StreamGame::Print(const std::string& line) { NoteFailure(lines_ << line << '\n'); }
+
+std::string StreamGame::WriteFile(const std::string& path, const std::string& text) {
+  const int error = ReplaceFile(path, text);
+  return error == 0 ? "" : path + " cannot be written: " + std::generic_category().message(error);
+}
 
 void StreamGame::NoteFailure(const std::ios& stream) {
   if (stream.bad() && error_ == 0) error_ = errno != 0 ? errno : EIO;

@@ -20,6 +20,7 @@ class StreamGame : public ScriptedGame {
  private:
   bool NextCommand(std::string& command) override;
   void Print(const std::string& line) override;
+  std::string WriteFile(const std::string& path, const std::string& text) override;
   void NoteFailure(const std::ios& stream);
 
   std::istream& commands_;

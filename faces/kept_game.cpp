@@ -1,0 +1,36 @@
+#include "faces/kept_game.h"
+
+#include <utility>
+
+#include "game/game.h"
+#include "journal/journal.h"
+
+namespace zelvo {
+
+KeptGame ReadKeptGame(std::string_view text) {
+  Journal trial;
+  Game game(trial);
+  trial.Attach(game);
+  ReadList read = ReadGameList(game, text);
+  KeptGame kept{std::move(read.list), std::move(read.error), read.wholeBytes, true};
+  if (!kept.error.empty()) return kept;
+  trial.whenPlayed = [&kept] { kept.ends = false; };
+  trial.Start(kept.list);
+  kept.error = trial.misfit();
+  return kept;
+}
+
+GameList WithoutTheEnd(GameList list) {
+  while (!list.empty()) {
+    const Entry::Kind last = list.back().kind;
+    list.pop_back();
+    if (last == Entry::Kind::Click || last == Entry::Kind::Close) break;
+  }
+  return list;
+}
+
+std::string TextOf(Surface& surface, const GameList& list) {
+  return std::string(ListHeader()) + LinesSince(surface, list, {});
+}
+
+}  // namespace zelvo

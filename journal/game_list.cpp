@@ -1,0 +1,273 @@
+#include "journal/game_list.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <iterator>
+#include <optional>
+#include <unordered_map>
+
+namespace zelvo {
+namespace {
+
+constexpr std::string_view formatName = "zelvo-game ";
+constexpr std::string_view header = "zelvo-game 1\n";
+
+constexpr std::array<std::string_view, 9> verbs = {"click", "hover", "close",  "resize", "tick",
+                                                   "clock", "sound", "answer", "back"};
+constexpr std::array<std::string_view, 3> extents = {"normal", "minimised", "maximised"};
+constexpr std::array<std::string_view, 2> noOrYes = {"no", "yes"};
+
+struct AnswerName {
+  std::string_view name;
+  Answer answer;
+};
+constexpr std::array<AnswerName, 3> answers = {
+    {{"ok", Answer::Ok}, {"yes", Answer::Yes}, {"no", Answer::No}}};
+
+template <class Names>
+std::optional<std::size_t> Find(const Names& names, std::string_view name) {
+  const auto found = std::find(names.begin(), names.end(), name);
+  if (found == names.end()) return std::nullopt;
+  return static_cast<std::size_t>(found - names.begin());
+}
+
+/// Cuts the first word off a line, with the one blank behind it.
+std::string_view TakeWord(std::string_view& line) {
+  const auto blank = line.find(' ');
+  const std::string_view word = line.substr(0, blank);
+  line = blank == std::string_view::npos ? std::string_view() : line.substr(blank + 1);
+  return word;
+}
+
+std::optional<std::uint32_t> ReadNumber(std::string_view text) {
+  std::uint32_t number = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, number);
+  const bool plain = !text.empty() && (text.front() != '0' || text.size() == 1);
+  if (!plain || error != std::errc() || stop != end) return std::nullopt;
+  return number;
+}
+
+std::optional<TimeOfDay> ReadTime(std::string_view text) {
+  if (text.size() != 8 || text[2] != ':' || text[5] != ':') return std::nullopt;
+  const auto two = [text](std::size_t at) {
+    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
+    if (!isDigit(text[at]) || !isDigit(text[at + 1])) return 99;
+    return (text[at] - '0') * 10 + text[at + 1] - '0';
+  };
+  const TimeOfDay time{two(0), two(3), two(6)};
+  if (time.hour > 23 || time.minute > 59 || time.second > 59) return std::nullopt;
+  return time;
+}
+
+std::string TwoDigits(int number) {
+  return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
+}
+
+std::string NameOf(Surface& surface, const Entry& entry) {
+  const Window& window = *surface.Windows().at(entry.window);
+  std::string name(window.name());
+  if (entry.control != Entry::noControl) {
+    name.append(".").append(window.controls()[entry.control]->FullName());
+  }
+  return name;
+}
+
+/// Reads the lines of a list.
+class Reader {
+ public:
+  explicit Reader(Surface& surface) {
+    const auto windows = surface.Windows();
+    for (std::size_t w = 0; w < windows.size(); ++w) {
+      const std::string window(windows[w]->name());
+      targets_[window] = {static_cast<std::uint8_t>(w), Entry::noControl, windows[w], nullptr};
+      std::int16_t place = 0;
+      for (Control* control : windows[w]->controls()) {
+        targets_[window + "." + control->FullName()] = {static_cast<std::uint8_t>(w), place++,
+                                                        windows[w], control};
+      }
+    }
+  }
+
+  /// False if the line is no entry.
+  bool Read(std::string_view line, Entry& entry) const {
+    if (line.empty() || line.back() == ' ') return false;
+    const auto verb = Find(verbs, TakeWord(line));
+    if (!verb) return false;
+    entry.kind = static_cast<Entry::Kind>(*verb);
+    if (entry.IsDeed()) return ReadDeed(line, entry);
+    switch (entry.kind) {
+      case Entry::Kind::Clock: {
+        const auto time = ReadTime(TakeWord(line));
+        if (!time) return false;
+        entry.time = *time;
+        return ReadRun(line, entry);
+      }
+      case Entry::Kind::Sound: {
+        const auto yes = Find(noOrYes, line);
+        entry.hasSound = yes == 1U;
+        return yes.has_value();
+      }
+      case Entry::Kind::Answer:
+        for (const auto& [name, answer] : answers) {
+          if (name != line) continue;
+          entry.answer = answer;
+          return true;
+        }
+        return false;
+      default:
+        return ReadRun(line, entry);
+    }
+  }
+
+ private:
+  struct Target {
+    std::uint8_t window = 0;
+    std::int16_t control = Entry::noControl;
+    const Window* where = nullptr;
+    const Control* what = nullptr;
+  };
+
+  bool ReadDeed(std::string_view line, Entry& entry) const {
+    const auto found = targets_.find(std::string(TakeWord(line)));
+    if (found == targets_.end()) return false;
+    const Target& target = found->second;
+    entry.window = target.window;
+    entry.control = target.control;
+    const bool onTimer = target.what != nullptr && target.what->kind() == Kind::Timer;
+    const bool onWindow = target.what == nullptr;
+    switch (entry.kind) {
+      case Entry::Kind::Tick:
+        return onTimer && line.empty();
+      case Entry::Kind::Close:
+        return onWindow && line.empty();
+      case Entry::Kind::Resize: {
+        const auto extent = Find(extents, line);
+        if (!extent) return false;
+        entry.extent = static_cast<Extent>(*extent);
+        return onWindow;
+      }
+      default:
+        return !onTimer && line.empty();
+    }
+  }
+
+  static bool ReadRun(std::string_view line, Entry& entry) {
+    if (line.empty()) return true;
+    const auto count = ReadNumber(line);
+    if (!count || *count < 1 || *count > longestRun) return false;
+    entry.count = *count;
+    return true;
+  }
+
+  std::unordered_map<std::string, Target> targets_;
+};
+
+/// Why a text does not begin as a list does.
+std::string WhyNoList(std::string_view text) {
+  if (header.substr(0, text.size()) == text) return "it is cut off in its first line";
+  if (text.substr(0, formatName.size()) != formatName) return "it is no kept game";
+  const std::string_view version =
+      text.substr(formatName.size(), text.find('\n') - formatName.size());
+  const auto number = ReadNumber(version);
+  return number && *number > 1 ? "it was kept by a later version of the game"
+                               : "it is no kept game";
+}
+
+}  // namespace
+
+Entry EntryOf(Surface& surface, const Deed& deed) {
+  Entry entry;
+  entry.kind = static_cast<Entry::Kind>(deed.kind);
+  const auto windows = surface.Windows();
+  const auto window = std::find(windows.begin(), windows.end(), deed.window);
+  entry.window = static_cast<std::uint8_t>(window - windows.begin());
+  if (deed.control != nullptr) {
+    const auto& controls = deed.window->controls();
+    const auto control = std::find(controls.begin(), controls.end(), deed.control);
+    entry.control = static_cast<std::int16_t>(control - controls.begin());
+  }
+  entry.extent = deed.extent;
+  return entry;
+}
+
+Deed DeedOf(Surface& surface, const Entry& entry) {
+  Window* window = surface.Windows().at(entry.window);
+  Control* control =
+      entry.control == Entry::noControl ? nullptr : window->controls()[entry.control];
+  return {static_cast<Deed::Kind>(entry.kind), window, control, entry.extent};
+}
+
+std::string_view ListHeader() { return header; }
+
+std::string LineOf(Surface& surface, const Entry& entry) {
+  std::string line(verbs.at(static_cast<std::size_t>(entry.kind)));
+  if (entry.IsDeed()) line.append(" ").append(NameOf(surface, entry));
+  switch (entry.kind) {
+    case Entry::Kind::Resize:
+      line.append(" ").append(extents.at(static_cast<std::size_t>(entry.extent)));
+      break;
+    case Entry::Kind::Clock:
+      line.append(" ").append(TwoDigits(entry.time.hour));
+      line.append(":").append(TwoDigits(entry.time.minute));
+      line.append(":").append(TwoDigits(entry.time.second));
+      break;
+    case Entry::Kind::Sound:
+      line.append(entry.hasSound ? " yes" : " no");
+      break;
+    case Entry::Kind::Answer:
+      for (const auto& [name, answer] : answers) {
+        if (answer == entry.answer) line.append(" ").append(name);
+      }
+      break;
+    default:
+      break;
+  }
+  if (entry.count > 1) line.append(" ").append(std::to_string(entry.count));
+  return line += '\n';
+}
+
+Written Written::AllOf(const GameList& list) {
+  return {list.size(), list.empty() ? 0 : list.back().count};
+}
+
+std::string LinesSince(Surface& surface, const GameList& list, Written written) {
+  std::string lines;
+  if (written.entries > 0 && list[written.entries - 1].count > written.count) {
+    Entry grown = list[written.entries - 1];
+    grown.count -= written.count;
+    lines += LineOf(surface, grown);
+  }
+  for (std::size_t i = written.entries; i < list.size(); ++i) lines += LineOf(surface, list[i]);
+  return lines;
+}
+
+ReadList ReadGameList(Surface& surface, std::string_view text) {
+  ReadList read;
+  if (text.substr(0, header.size()) != header) {
+    read.error = WhyNoList(text);
+    return read;
+  }
+  const Reader reader(surface);
+  read.wholeBytes = text.rfind('\n') + 1;
+  std::string_view lines = text.substr(0, read.wholeBytes);
+  lines.remove_prefix(header.size());
+  for (std::uint32_t number = 2; !lines.empty(); ++number) {
+    const auto end = lines.find('\n');
+    const std::string_view line = lines.substr(0, end);
+    lines.remove_prefix(end + 1);
+    if (!line.empty() && line.front() == '#') continue;
+    Entry entry;
+    entry.line = number;
+    if (!reader.Read(line, entry)) {
+      read.error = "its line " + std::to_string(number) + " cannot be read";
+      read.list.clear();
+      return read;
+    }
+    read.list.push_back(entry);
+  }
+  return read;
+}
+
+}  // namespace zelvo

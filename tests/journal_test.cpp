@@ -1,0 +1,291 @@
+#include "journal/journal.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+
+#include "faces/game_file.h"
+#include "faces/headless/state.h"
+#include "faces/kept_game.h"
+#include "tests/play.h"
+
+namespace zelvo::test {
+namespace {
+
+/// Plays a game by random commands, with deeds inside waits, restarts and closed boards, and notes
+/// what state belongs to which part of the list.
+class RandomGame : public Scripted {
+ public:
+  RandomGame(unsigned seed, int length) : random_(seed), left_(length) {}
+
+  /// The state at a rest after so many entries, if there was one.
+  std::map<std::size_t, std::pair<std::uint32_t, std::string>> states;
+  GameList list;
+
+ private:
+  bool OneIn(unsigned chances) { return random_() % chances == 0; }
+
+  bool NextCommand(std::string& command) override {
+    list = journal().list();
+    states[list.size()] = {list.empty() ? 0 : list.back().count, StateAsJson(game())};
+    if (--left_ < 0) return false;
+    command = Command();
+    return true;
+  }
+  void Print(const std::string& line) override {
+    message_ = line.find("\"message\"") != std::string::npos;
+  }
+
+  std::string Command() {
+    if (message_) return OneIn(2) ? "answer yes" : OneIn(2) ? "answer no" : "answer ok";
+    if (OneIn(8)) return "clock 12:" + std::to_string(10 + random_() % 50) + ":" + "05";
+    if (OneIn(8)) return "wait " + std::to_string(random_() % 40'000);
+    const Window& window = *game().InputWindow();
+    const bool board = window.name() == "GFM";
+    if (board && OneIn(4)) return "click GFM.CMDGO";
+    if (OneIn(board ? 40 : 10))
+      return "close " + std::string(window.name() == "GST" ? "GFM" : window.name());
+    if (OneIn(60)) return "click GST.CMDSTART";
+    const std::string when = OneIn(4) ? "later " : "";
+    const Control& control = *window.controls()[random_() % window.controls().size()];
+    if (control.FullName() == "CMDEXIT" && window.name() != "WINX" && !OneIn(20))
+      return "hover GFM";
+    const std::string verb = OneIn(4) ? "hover " : "click ";
+    if (window.name() == "GST" && control.FullName() == "CMDEXIT") return "click GST.CMDSET";
+    return when + verb + std::string(window.name()) + "." + control.FullName();
+  }
+
+  std::minstd_rand random_;
+  int left_;
+  bool message_ = false;
+};
+
+/// The state where a list ends.
+std::string StateAfter(const GameList& list) {
+  Journal trial;
+  Game game(trial);
+  trial.Attach(game);
+  std::string state = "the list ends the program";
+  trial.whenPlayed = [&] { state = StateAsJson(game); };
+  trial.Start(list);
+  return trial.misfit().empty() ? state : trial.misfit();
+}
+
+TEST(KeptGames, CutAnywhereStandWhereTheirLastWholeLineLeftThem) {
+  const char* wish = std::getenv("ZELVO_CUTS");
+  const int cuts = wish != nullptr ? std::atoi(wish) : 300;
+  std::minstd_rand random(7);
+  int compared = 0;
+  for (int cut = 0; cut < cuts;) {
+    RandomGame played(static_cast<unsigned>(random()), 300);
+    played.Run();
+    const std::string text = TextOf(played.game(), played.list);
+    for (int i = 0; i < 50; ++i, ++cut) {
+      const std::string part = text.substr(0, random() % (text.size() + 1));
+      const KeptGame kept = ReadKeptGame(part);
+      if (part.size() < ListHeader().size()) {
+        EXPECT_EQ(kept.error, "it is cut off in its first line");
+        continue;
+      }
+      ASSERT_EQ(kept.error, "") << part;
+      EXPECT_EQ(kept.wholeBytes, part.rfind('\n') + 1);
+      EXPECT_FALSE(kept.ends);
+      const auto known = played.states.find(kept.list.size());
+      const bool sameRun = known != played.states.end() && !kept.list.empty() &&
+                           known->second.first == kept.list.back().count;
+      if (sameRun) {
+        ++compared;
+        EXPECT_EQ(StateAfter(kept.list), known->second.second) << part;
+      }
+      // Whoever goes on adds to the list and changes nothing in it.
+      Scripted further("hover GFM\nclick GFM.CMDGO\nanswer no\nwait 9999\n");
+      further.GoOn(kept.list);
+      EXPECT_FALSE(further.Lines().empty());
+      GameList begins = further.journal().list();
+      ASSERT_GE(begins.size(), kept.list.size());
+      begins.resize(kept.list.size());
+      if (!begins.empty()) begins.back().count = kept.list.back().count;
+      EXPECT_EQ(TextOf(further.game(), begins), part.substr(0, kept.wholeBytes));
+    }
+  }
+  EXPECT_GT(compared, cuts / 20);
+}
+
+/// A list that has come as far as the board, which a line too much is added to.
+std::string Board(const std::string& more) {
+  return "zelvo-game 1\n# to the board\nback\nsound yes\nclick GST.CMDSTART\nsound yes\n"
+         "clock 12:00:00\nback\nclock 12:00:00\nback\nclock 12:00:00\nback\nclock 12:00:00\n"
+         "back 2\nclock 12:00:00\n" +
+         more;
+}
+
+TEST(KeptGames, ThatDoNotFitAreRefusedWithTheirLine) {
+  const std::string unread = "its line 16 cannot be read";
+  const std::string misfit = "its line 16 does not fit the game: ";
+  for (const auto& [text, why] : std::initializer_list<std::pair<std::string, std::string>>{
+           {Board(""), ""},
+           {Board("torn"), ""},
+           {Board("hover GFM.CMDGO\nhover GFM.CMDGO\n# a remark\n"), ""},
+           {Board("click GFM.Nothing\n"), unread},
+           {Board("clik GFM.CMDGO\n"), unread},
+           {Board("click  GFM.CMDGO\n"), unread},
+           {Board("click GFM.CMDGO \n"), unread},
+           {Board("click GFM.CMDGO\r\n"), unread},
+           {Board("click GFM.Image1(01)\n"), unread},
+           {Board("\n"), unread},
+           {Board("tick GFM.CMDGO\n"), unread},
+           {Board("click GFM.Timer1\n"), unread},
+           {Board("close GFM.CMDGO\n"), unread},
+           {Board("resize GFM\n"), unread},
+           {Board("resize GFM wide\n"), unread},
+           {Board("clock 24:00:00\n"), unread},
+           {Board("clock 12:0:00\n"), unread},
+           {Board("clock 12:00:00 0\n"), unread},
+           {Board("back 01\n"), unread},
+           {Board("back 1000001\n"), unread},
+           {Board("sound maybe\n"), unread},
+           {Board("answer\n"), unread},
+           {Board(std::string("click\0GFM", 9) + "\n"), unread},
+           {Board("back\n"), misfit + "back"},
+           {Board("answer ok\n"), misfit + "answer ok"},
+           {Board("sound no\n"), misfit + "sound no"},
+           {Board("clock 23:59:59 3\n"), misfit + "clock 23:59:59 3"},
+           {Board("click GFM.CMDBUY\n"), misfit + "click GFM.CMDBUY"},
+           {Board("close BK\n"), misfit + "close BK"},
+           {Board("tick GFM.Timer1\n"), misfit + "tick GFM.Timer1"},
+           {Board("resize ICF maximised\n"), misfit + "resize ICF maximised"},
+           {Board("close GFM\nclick GFM.CMDGO\n"),
+            "its line 17 does not fit the game: click GFM.CMDGO"},
+           {Board("close GST\nhover GST\n"), "its line 17 does not fit the game: hover GST"},
+           {Board("click GFM.CMDHELP\nclick ICF.cmdexit\nclick ICF.cmdexit\n"),
+            "its line 18 does not fit the game: click ICF.cmdexit"},
+           {Board("click GFM.CMDGO\nback\nanswer yes\n"),
+            "its line 18 does not fit the game: answer yes"},
+           {"", "it is cut off in its first line"},
+           {"zelvo-game 1", "it is cut off in its first line"},
+           {"zelvo-game 2\nfold GFM\n", "it was kept by a later version of the game"},
+           {"zelvo-game 1\r\n", "it is no kept game"},
+           {"zelvo-game one\n", "it is no kept game"},
+           {"\xEF\xBB\xBFzelvo-game 1\n", "it is no kept game"},
+           {"<html>\n", "it is no kept game"}}) {
+    EXPECT_EQ(ReadKeptGame(text).error, why) << text;
+  }
+}
+
+TEST(KeptGames, ThatEndTheProgramCanBeGoneOnWithAheadOfTheirEnd) {
+  for (const char* end : {"close GST\n", "click GST.CMDEXIT\nsound yes\n"}) {
+    const KeptGame kept =
+        ReadKeptGame(Board(std::string("hover GFM.CMDGO\nclick GFM.CMDEXIT\n") + end));
+    EXPECT_EQ(kept.error, "");
+    EXPECT_TRUE(kept.ends);
+    Scripted ended;
+    ended.GoOn(kept.list);
+    EXPECT_EQ(ended.Lines().back()["waiting"], "ended");
+    Scripted before("get Word\n");
+    before.GoOn(WithoutTheEnd(kept.list));
+    EXPECT_EQ(before.Lines().back()["value"], "OVER");
+  }
+}
+
+/// A folder of its own that goes when the test is over.
+struct Folder {
+  Folder() { EXPECT_NE(mkdtemp(path.data()), nullptr); }
+  ~Folder() { std::filesystem::remove_all(path); }
+  std::string File(const std::string& name) const { return path + "/" + name; }
+  std::string path = testing::TempDir() + "zelvo-XXXXXX";
+};
+
+void Write(const std::string& path, const std::string& text) { std::ofstream(path) << text; }
+
+TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
+  const Folder folder;
+  const std::string file = folder.File("a.zelvo");
+  Write(file, "old");
+  const std::string keep = "keep " + file + "\n";
+  const auto last = [](const std::string& script) { return Play(script).back(); };
+  EXPECT_EQ(last("keep\n")["error"], "keep needs the name of a file");
+  EXPECT_EQ(last("keep /no/such\n")["error"],
+            "/no/such cannot be written: No such file or directory");
+  EXPECT_EQ(last("keep /dev/full\n")["error"], "/dev/full cannot be written: Is a directory");
+  EXPECT_EQ(last("set Word \"x\"\n" + keep)["error"],
+            "something was set, which no player can do: there is no list of such a game");
+  EXPECT_EQ(ReadFile(file).text, "old");
+  // A set that was refused has set nothing; a deed that the surface drops is not in the list.
+  EXPECT_FALSE(last("set CurLot 100\nclick GST.CMDSTART\nclick GFM.CMDBUY\nhover GFM\nhover GFM\n"
+                    "clock 09:08:07\nclick GFM.CMDHELP\nclick ICF.OPT1(2)\n" +
+                    keep)
+                   .contains("error"));
+  EXPECT_EQ(ReadFile(file).text,
+            "zelvo-game 1\nback\nsound yes\nclick GST.CMDSTART\nsound yes\nclock 12:00:00\nback\n"
+            "clock 12:00:00\nback\nclock 12:00:00\nback\nclock 12:00:00\nback 2\nclock 12:00:00\n"
+            "hover GFM\nclick GFM.CMDHELP\nclick ICF.OPT1(2)\n");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 1);
+}
+
+TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
+  const Folder folder;
+  const std::string file = folder.File("a.zelvo");
+  const auto text = [&] { return ReadFile(file).text; };
+  KeptFile kept;
+  EXPECT_EQ(kept.Open(file, 0), ENOENT);
+  EXPECT_EQ(kept.Replace(file, "one\n"), 0);
+  EXPECT_EQ(kept.Append("two\n", true), 0);
+  EXPECT_EQ(text(), "one\ntwo\n");
+  KeptFile other;
+  EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK);
+  EXPECT_EQ(other.Replace(file, "other"), EWOULDBLOCK);
+  EXPECT_EQ(ReplaceFile(file, "other"), EWOULDBLOCK);
+  EXPECT_EQ(text(), "one\ntwo\n");
+  EXPECT_EQ(kept.Replace(file, "three\nto"), 0);
+  EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK) << "the new file is held like the old one";
+  kept.Close();
+  // A torn line is cut off; permissions and links stay.
+  EXPECT_EQ(chmod(file.c_str(), 0640), 0);
+  const std::string link = folder.File("link.zelvo");
+  EXPECT_EQ(symlink(file.c_str(), link.c_str()), 0);
+  EXPECT_EQ(other.Open(link, 6), 0);
+  EXPECT_EQ(other.Append("four\n", false), 0);
+  EXPECT_EQ(text(), "three\nfour\n");
+  EXPECT_EQ(other.Replace(link, "five\n"), 0);
+  EXPECT_EQ(text(), "five\n");
+  EXPECT_TRUE(std::filesystem::is_symlink(link));
+  EXPECT_EQ(static_cast<int>(std::filesystem::status(file).permissions()), 0640);
+  EXPECT_TRUE(other.IsInPlace());
+  std::filesystem::remove(file);
+  EXPECT_FALSE(other.IsInPlace());
+  // A pipe, a device or a folder is no place to keep a game.
+  for (const std::string& place : {folder.path, std::string("/dev/full")}) {
+    EXPECT_NE(kept.Replace(place, "text"), 0) << place;
+  }
+}
+
+/// A machine that hands in a click where a machine may not.
+struct Restless : Scripted {
+  Restless() : Scripted("click GST.CMDSTART\nclick GFM.CMDHELP\n") {}
+  bool PlaySound(const std::string& path, bool waits) override {
+    taken += game().Click(game().GST->CMDSET) ? 1 : 0;
+    return Scripted::PlaySound(path, waits);
+  }
+  void RunModal(Window& window) override {
+    taken += game().Click(game().ICF->cmdexit) ? 1 : 0;
+    EXPECT_FALSE(window.IsShown());
+    taken += game().Hover(game().GST) || game().Resize(game().GST, Extent::Maximised) ? 1 : 0;
+  }
+  int taken = 0;
+};
+
+TEST(Journals, NothingReachesTheGameButWhereItWaits) {
+  Restless machine;
+  machine.Lines();
+  EXPECT_EQ(machine.taken, 1) << "the click that closes the setup";
+  EXPECT_EQ(machine.game().GST->extent, Extent::Normal);
+}
+
+}  // namespace
+}  // namespace zelvo::test

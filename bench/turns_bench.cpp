@@ -26,7 +26,7 @@ void IdleTurns(benchmark::State& state) {
   AutoPlayer player;
   player.inModal = Dismiss;
   StartGame(player.game());
-  for (auto _ : state) EndTurn(player.game());
+  for ([[maybe_unused]] auto _ : state) EndTurn(player.game());
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(IdleTurns);
@@ -57,7 +57,7 @@ void BuildingTurns(benchmark::State& state) {
   AutoPlayer player;
   player.inModal = Insure;
   StartGame(player.game());
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     BuyAndBuild(player.game());
     EndTurn(player.game());
   }
@@ -72,7 +72,7 @@ void BoardEvents(benchmark::State& state, const char* tag, Control ICFWindow::*i
   player.inModal = Dismiss;
   Game& g = player.game();
   StartGame(g);
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     for (int lot = 0; lot < lotCount; ++lot) SetLot(g, lot, g.ICF->*icon, tag);
     BoardEvent(g);
   }
@@ -88,7 +88,7 @@ void ScriptLines(benchmark::State& state) {
     script += "click GFM.Image1(" + std::to_string(i % lotCount) +
               ")\nget GFM.PSHOW.Caption\nhover GFM.CMDGO\nget LotValue(7)\n";
   }
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     std::istringstream input(script);
     std::ostringstream output;
     StreamGame(input, output).Run();

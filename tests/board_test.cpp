@@ -26,8 +26,8 @@ std::string Turn(const std::string& script, const std::string& gets) {
   for (std::size_t i = 2; i < lines.size(); ++i) {  // behind the start and its sounds
     EXPECT_FALSE(lines[i].contains("error")) << lines[i];
     if (lines[i].contains("value")) told += lines[i]["value"].dump() + " ";
-    for (const Json& cue : lines[i].value("cues", Json::array())) {
-      heard += cue["file"].get<std::string>() + " ";
+    for (const Json& cue : lines[i]["cues"].items()) {
+      heard += cue["file"].text() + " ";
     }
   }
   std::erase(told, '"');
@@ -137,14 +137,15 @@ TEST(BoardEvent, ACondemnedLotLosesValueAndLowersItsNeighbours) {
 TEST(Spread, GoesToTheNeighboursByIndex) {
   for (const auto& [lot, neighbours] :
        {std::pair{9, "8 10 19 "}, {30, "20 29 31 40 "}, {90, "80 89 91 "}, {99, "89 98 "}}) {
-    const Json values = Last(Lot(lot, "U", "50000") + Set("Delta", "7") + Set("OpenLots", "9") +
-                             // Nothing but an opening is left for the second event.
-                             Set("LastGolf", "-1") + Set("LastCondemned", "-1") +
-                             Draws({{3, lot}}) + "click GFM.CMDGO\nstate\n")["state"];
+    const auto values =
+        Last(Lot(lot, "U", "50000") + Set("Delta", "7") + Set("OpenLots", "9") +
+             // Nothing but an opening is left for the second event.
+             Set("LastGolf", "-1") + Set("LastCondemned", "-1") + Draws({{3, lot}}) +
+             "click GFM.CMDGO\nstate\n")["state"]["variables"]["LotValue"]
+            .items();
     std::string raised;
     for (int i = 0; i < 100; ++i) {
-      const std::string value = values["variables"]["LotValue"][i];
-      if (value.ends_with("7.0000")) raised += std::to_string(i) + " ";
+      if (values[i].text().ends_with("7.0000")) raised += std::to_string(i) + " ";
     }
     EXPECT_EQ(raised, neighbours) << lot;
   }

@@ -28,7 +28,7 @@ std::vector<Json> Values(const std::string& script) {
 std::vector<std::string> Texts(const std::string& script) {
   std::vector<std::string> texts;
   for (const Json& value : Values(script)) {
-    texts.push_back(value.is_string() ? value.get<std::string>() : value.dump());
+    texts.push_back(value.text());
   }
   return texts;
 }

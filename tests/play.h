@@ -1,15 +1,13 @@
 #pragma once
 
-#include <nlohmann/json.hpp>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "faces/headless/stream_game.h"
+#include "tests/json.h"
 
 namespace zelvo::test {
-
-using Json = nlohmann::json;
 
 /// Plays a script through the scripted face and gives its lines.
 std::vector<Json> Play(const std::string& script);

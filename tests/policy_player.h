@@ -48,7 +48,7 @@ class PolicyPlayer : public std::streambuf {
   std::string NextCommand() {
     const std::size_t start = transcript_.rfind('\n', transcript_.size() - 2) + 1;
     const Json line = Json::parse(transcript_.substr(start));
-    const std::string waiting = line["waiting"];
+    const std::string waiting = line["waiting"].text();
     if (line.contains("message")) {
       if (line["message"]["style"] != 36) return "answer ok";
       return line["message"]["title"] == "Buy out" ? "answer yes" : "answer no";

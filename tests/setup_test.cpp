@@ -44,7 +44,7 @@ TEST(Setup, SoundSwitchWorksFromTheNextCueOn) {
       "get ICF.CMDSOUND.Caption\nclick ICF.cmdexit\nget SoundOn\n";
   EXPECT_EQ(Told(press + press), "Sound on | Sound off | 0 | Sound off | Sound on | -1");
   EXPECT_FALSE(Last(press + park).contains("cues"));
-  EXPECT_EQ(Last(press + park + press + park)["cues"][0]["file"], "PARK.WAV");
+  EXPECT_EQ(Last(press + park + press + park)["cues"].items().at(0)["file"], "PARK.WAV");
 }
 
 TEST(Setup, LegendTellsWhatEachIconMeans) {

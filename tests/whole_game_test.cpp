@@ -195,10 +195,10 @@ TEST(LongGame, EveryEventEveryCueAndEveryWindowOccurs) {
     for (std::size_t i = at == 1 ? 0 : at; i < at + commands && i < lines.size(); ++i) {
       const Json& read = lines[i];
       EXPECT_FALSE(read.contains("error")) << chapter.name << ": " << read;
-      windows.insert(read["waiting"].get<std::string>());
-      told += (told.empty() || !read.contains("value") ? "" : " | ") + read.value("value", "");
-      for (const Json& cue : read.value("cues", Json::array())) {
-        cues += cue["file"].get<std::string>() + (cue["waits"] ? "! " : " ");
+      windows.insert(read["waiting"].text());
+      told += (told.empty() || !read.contains("value") ? "" : " | ") + read["value"].text();
+      for (const Json& cue : read["cues"].items()) {
+        cues += cue["file"].text() + (cue["waits"].text() == "true" ? "! " : " ");
       }
     }
     at += commands;

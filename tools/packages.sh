@@ -3,6 +3,8 @@ play_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' l
   nlohmann-json3-dev fonts-dejavu-core)
 check_packages=("${play_packages[@]}" clang clang-format clang-tidy libgtest-dev libgl-dev
   'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')
+# clang-tidy reads the benchmarks as well.
+tidy_packages=(python3 libbenchmark-dev)
 # For the tests of the real program: a screen, a window manager, a sound server and a bus of their own.
 machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio pulseaudio-utils dbus
   locales)

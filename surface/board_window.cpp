@@ -51,7 +51,6 @@ constexpr std::array<Group, 2> ledgerGroups = {{{"Player"}, {"Computer"}}};
 constexpr Group newsGroup = {"News"};
 constexpr Group actionGroup = {"Actions"};
 constexpr Group classGroup = {"Buildings", true};
-constexpr Group bankGroup = {"First National Bank"};
 
 constexpr int boardLevel = -2;
 constexpr int afterBoard = -1;
@@ -248,21 +247,12 @@ void GFMWindow::PlaceBottomStrip() {
   Place(NAMED(Label10), Kind::Label, {80, 450, 2250, 330},
         {.caption = "Level", .look = {.letterHeight = 190}}, &Panel3D4);
   Place(NAMED(Label8), Kind::Label, {2360, 70, 2080, 360},
-        {.caption = "First National Bank",
-         .look = Heading(bankTeal, Align::Center),
-         .group = &bankGroup},
-        &Panel3D4);
+        {.caption = "First National Bank", .look = Heading(bankTeal, Align::Center)}, &Panel3D4);
   Place(NAMED(Label9), Kind::Label, {2360, 450, 980, 340},
-        {.caption = "Net Worth $",
-         .look = {.ink = white, .ground = bankTeal, .letterHeight = 130},
-         .group = &bankGroup},
+        {.caption = "Net Worth $", .look = {.ink = white, .ground = bankTeal, .letterHeight = 130}},
         &Panel3D4);
   Place(NAMED(BANKLABEL), Kind::Label, {3340, 450, 1100, 340},
-        {.caption = "$",
-         .look = amount,
-         .label = "Bank's net worth",
-         .group = &bankGroup,
-         .speech = Speech::Standing},
+        {.caption = "$", .look = amount, .label = "Bank's net worth", .speech = Speech::Standing},
         &Panel3D4);
   Place(NAMED(CMDHELP), Kind::Button, {4500, 80, 600, 710},
         {.picture = PictureId::GFM_CMDHELP, .words = "Setup", .key = Key::F1}, &Panel3D4);

@@ -3,17 +3,42 @@
 namespace zelvo {
 namespace {
 
-/// A text on one line, words one blank apart.
+constexpr auto npos = std::string_view::npos;
+
+/// A text on one line, words one blank apart. Where a line ends a voice makes a pause.
 std::string OneLine(std::string_view text) {
   std::string line;
   bool gap = false;
+  bool pause = false;
   for (const char c : text) {
-    const bool blank = c == ' ' || c == '\n' || c == '\r';
-    if (!blank && gap && !line.empty()) line += ' ';
-    if (!blank) line += c;
-    gap = blank;
+    if (c == ' ' || c == '\n' || c == '\r') {
+      gap = true;
+      pause = pause || c == '\n';
+      continue;
+    }
+    const bool inWords = !line.empty() && std::string_view(".,;:!?").find(line.back()) == npos;
+    if (gap && !line.empty()) line += pause && inWords ? ", " : " ";
+    line += c;
+    gap = pause = false;
   }
   return line;
+}
+
+/// Adds a sentence to a text.
+void Join(std::string& text, const std::string& sentence) {
+  if (sentence.empty()) return;
+  if (!text.empty()) text += text.back() == '.' || text.back() == '!' ? " " : ". ";
+  text += sentence;
+}
+
+std::string AllOf(const Window& window, Speech speech) {
+  std::string text;
+  for (const Control* control : window.controls()) {
+    if (control->design().speech == speech && control->VisibleInWindow()) {
+      Join(text, SpokenName(*control));
+    }
+  }
+  return text;
 }
 
 }  // namespace
@@ -31,6 +56,16 @@ std::string SpokenName(const Control& control) {
   const std::string shown = SpokenContent(control);
   if (!name.empty() && !shown.empty()) name += ", ";
   return name + shown;
+}
+
+std::string SpokenNews(const Window& window) { return AllOf(window, Speech::News); }
+
+std::string SpokenStanding(Surface& surface) {
+  std::string standing;
+  for (const Window* window : surface.Windows()) {
+    if (window->IsShown()) Join(standing, AllOf(*window, Speech::Standing));
+  }
+  return standing;
 }
 
 std::string SpokenName(const Window& window) {

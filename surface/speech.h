@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "surface/window.h"
+#include "surface/surface.h"
 
 /// What those hear who do not see the windows. Any face can speak it, or hand it to a helper that
 /// does.
@@ -17,5 +17,11 @@ std::string SpokenContent(const Control& control);
 
 /// What a window is, its title as a rule.
 std::string SpokenName(const Window& window);
+
+/// All that is news on a window now.
+std::string SpokenNews(const Window& window);
+
+/// How the game stands: the amounts on all shown windows.
+std::string SpokenStanding(Surface& surface);
 
 }  // namespace zelvo

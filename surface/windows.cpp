@@ -133,9 +133,12 @@ WINXWindow::WINXWindow(Surface& surface)
   constexpr Look gold = {
       .ink = 0xf2cf3a, .letterHeight = 420, .bold = true, .align = Align::Center};
   constexpr Look plain = {.ink = white, .letterHeight = 330, .bold = true, .align = Align::Center};
-  Place(NAMED(Label1), Kind::Label, {180, 180, 4920, 600}, {.caption = "LABEL 1", .look = gold});
-  Place(NAMED(Label2), Kind::Label, {180, 860, 4920, 560}, {.caption = "LABEL 2", .look = plain});
-  Place(NAMED(Label3), Kind::Label, {180, 1500, 4920, 560}, {.caption = "LABEL 3", .look = plain});
+  Place(NAMED(Label1), Kind::Label, {180, 180, 4920, 600},
+        {.caption = "LABEL 1", .look = gold, .speech = Speech::News});
+  Place(NAMED(Label2), Kind::Label, {180, 860, 4920, 560},
+        {.caption = "LABEL 2", .look = plain, .speech = Speech::News});
+  Place(NAMED(Label3), Kind::Label, {180, 1500, 4920, 560},
+        {.caption = "LABEL 3", .look = plain, .speech = Speech::News});
   Place(NAMED(CMDEXIT), Kind::Button, {5280, 660, 1080, 1080},
         {.picture = PictureId::WINX_CMDEXIT, .words = "Close", .key = Key::Escape});
 }
@@ -154,16 +157,23 @@ HHWindow::HHWindow(Surface& surface)
 HSWindow::HSWindow(Surface& surface)
     : Window(surface, {"HS", "Zelvo Statistics", 3288, 4536, TitleBar::NoButtons}) {
   Place(ENTRY(Label1, 0), Kind::Label, {90, 90, 3108, 380},
-        {.caption = "Statistics", .look = Heading(playerBlue, Align::Center)});
+        {.caption = "Statistics",
+         .look = Heading(playerBlue, Align::Center),
+         .speech = Speech::News});
   for (int line = 1; line <= 3; ++line) {
-    Place(ENTRY(Label1, line), Kind::Label, {90, 180 + 350 * line, 3108, 330}, {.look = centred});
+    Place(ENTRY(Label1, line), Kind::Label, {90, 180 + 350 * line, 3108, 330},
+          {.look = centred, .speech = Speech::News});
   }
   Place(ENTRY(Label1, 5), Kind::Label, {90, 1600, 3108, 360},
-        {.look = {.letterHeight = 230, .bold = true, .align = Align::Center}});
+        {.look = {.letterHeight = 230, .bold = true, .align = Align::Center},
+         .speech = Speech::News});
   Place(ENTRY(L1, 4), Kind::Label, {90, 2040, 3108, 360},
-        {.caption = "Purchase Insurance ?", .look = Heading(bankTeal, Align::Center)});
+        {.caption = "Purchase Insurance ?",
+         .look = Heading(bankTeal, Align::Center),
+         .speech = Speech::News});
   Place(ENTRY(Label1, 4), Kind::Label, {90, 2420, 3108, 330},
-        {.look = {.ink = computerRed, .letterHeight = 200, .bold = true, .align = Align::Center}});
+        {.look = {.ink = computerRed, .letterHeight = 200, .bold = true, .align = Align::Center},
+         .speech = Speech::News});
   Place(ENTRY(CMDAN1, 0), Kind::Button, {340, 2790, 2608, 480},
         {.caption = "Purchase insurance", .look = button});
   Place(ENTRY(CMDAN1, 1), Kind::Button, {340, 3340, 2608, 480},
@@ -184,7 +194,9 @@ SVWindow::SVWindow(Surface& surface)
 RBWindow::RBWindow(Surface& surface)
     : Window(surface, {"RB", "Oh, Oh", 2928, 3516, TitleBar::CloseOnly}) {
   Place(NAMED(Label1), Kind::Label, {90, 80, 2748, 340},
-        {.caption = "Zoning Board", .look = Heading(computerRed, Align::Center)});
+        {.caption = "Zoning Board",
+         .look = Heading(computerRed, Align::Center),
+         .speech = Speech::News});
   Place(NAMED(MAN), Kind::Image, {834, 480, 1260, 1260}, {.picture = PictureId::RB_MAN});
   Place(NAMED(Label2), Kind::Label, {90, 1800, 2748, 1626},
         {.look = message, .speech = Speech::News});
@@ -193,7 +205,9 @@ RBWindow::RBWindow(Surface& surface)
 MLWindow::MLWindow(Surface& surface)
     : Window(surface, {"ML", "Mall", 3300, 3720, TitleBar::Fixed}) {
   Place(NAMED(Label1), Kind::Label, {90, 80, 3120, 340},
-        {.caption = "Property zoned for a Mall", .look = Heading(bankTeal, Align::Center)});
+        {.caption = "Property zoned for a Mall",
+         .look = Heading(bankTeal, Align::Center),
+         .speech = Speech::News});
   Place(NAMED(Image1), Kind::Image, {1220, 500, 860, 860});
   Place(NAMED(Label2), Kind::Label, {90, 1440, 3120, 1560},
         {.look = message, .speech = Speech::News});
@@ -253,7 +267,7 @@ ABTWindow::ABTWindow(Surface& surface)
     : Window(surface, {"ABT", "About Box", 5400, 4200, TitleBar::CloseOnly, cream}) {
   Place(NAMED(Image1), Kind::Image, {2140, 180, 1120, 1120}, {.picture = PictureId::ABT_Image1});
   Place(NAMED(Label1), Kind::Label, {100, 1420, 5200, 2600},
-        {.look = {.letterHeight = 180, .align = Align::Center}});
+        {.look = {.letterHeight = 180, .align = Align::Center}, .speech = Speech::News});
 }
 
 }  // namespace zelvo

@@ -80,14 +80,26 @@ void ControlWidget::SetInHand(bool inHand) {
 void ControlWidget::TakeOver() {
   if (shown_.caption != control_.Caption) text_.reset();
   const bool newText = shown_.text != control_.Text;
+  const bool newName = shown_.caption != control_.Caption || shown_.picture != control_.Picture;
+  const bool newValue = shown_.value != control_.Value();
   shown_ = Shown::Of(control_);
   if (editor_ != nullptr && newText) editor_->setPlainText(ScreenText(control_.Text));
   if (!shown_.enabled) view_.focusPath().Leave(*this);
   setEnabled(shown_.enabled);
   update();
-  if (QAccessible::isActive()) {
-    QAccessibleEvent changed(this, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&changed);
+  if (QAccessible::isActive()) TellHelpers(newName, newValue);
+}
+
+void ControlWidget::TellHelpers(bool newName, bool newValue) {
+  if (newName) {
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+  }
+  if (newValue) {
+    QAccessible::State checked;
+    checked.checked = true;
+    QAccessibleStateChangeEvent ticked(this, checked);
+    QAccessible::updateAccessibility(&ticked);
   }
 }
 

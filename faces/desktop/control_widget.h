@@ -21,6 +21,7 @@ class ControlWidget : public QWidget {
   ControlWidget(Control& control, WindowView& view);
 
   Control& control() const { return control_; }
+  WindowView& view() const { return view_; }
   /// Shows what the control holds now, if that is not what the widget shows already.
   void Sync();
   /// The same when the window comes up: what is hidden is hidden at once.
@@ -65,6 +66,7 @@ class ControlWidget : public QWidget {
 
  private:
   void TakeOver();
+  void TellHelpers(bool newName, bool newValue);
   void BecomeVisible(bool visible);
   void ShowOrHide();
   void DrawBody(QPainter& painter);

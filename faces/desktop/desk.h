@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "faces/desktop/pictures.h"
+#include "faces/desktop/voice.h"
 #include "surface/surface.h"
 
 namespace zelvo {
@@ -13,7 +14,8 @@ class WindowView;
 /// game.
 class Desk {
  public:
-  explicit Desk(const QString& pictureFolder) : pictures(pictureFolder) {}
+  Desk(const QString& pictureFolder, Voice::Speaker speaker)
+      : pictures(pictureFolder), voice(std::move(speaker)) {}
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
   virtual ~Desk() = default;
@@ -28,6 +30,7 @@ class Desk {
   virtual WindowView* Front() const = 0;
 
   Pictures pictures;
+  Voice voice;
   /// The player's last input came from the keyboard, so the focus is to be seen.
   bool usesKeys = false;
   /// How often a button of the mouse went down on a window so far.

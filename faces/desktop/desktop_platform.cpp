@@ -37,12 +37,15 @@ Machine ThisMachine(const QString& dataFolder) {
   machine.dataFolder = dataFolder;
   machine.sound = MakeSoundPlayer(WakeUp);
   machine.clock = LocalTime;
+  machine.speaker = [announcer = std::make_shared<Announcer>()](const QString& text) {
+    announcer->Say(text);
+  };
   machine.leave = QCoreApplication::quit;
   return machine;
 }
 
 DesktopPlatform::DesktopPlatform(Machine machine)
-    : Desk(machine.dataFolder + "/pictures"), machine_(std::move(machine)) {
+    : Desk(machine.dataFolder + "/pictures", machine.speaker), machine_(std::move(machine)) {
   // The game's windows have one design and their texts one language, whatever the system's is.
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   DescribeControlsToHelpers();

@@ -24,6 +24,7 @@ struct Machine {
   QString dataFolder;  ///< with the folders pictures and sounds
   std::unique_ptr<SoundPlayer> sound;
   std::function<TimeOfDay()> clock;
+  Voice::Speaker speaker;
   /// The milliseconds that a timer of so many really takes.
   std::function<int(int)> tickLength = [](int interval) { return interval; };
   /// Leaves the program once the game has ended.

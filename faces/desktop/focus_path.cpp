@@ -121,9 +121,13 @@ void FocusPath::Walk(ControlWidget& from, QPoint direction) {
 }
 
 void FocusPath::WalkToInitial(ControlWidget& from, const QString& initial) {
-  if (from.WalkedGroup() == nullptr) return;
-  auto members = Members(*from.WalkedGroup());
-  const auto here = std::find(members.begin(), members.end(), &from);
+  const Group* group = from.WalkedGroup();
+  for (const ControlWidget* widget : order_) {
+    if (group == nullptr) group = widget->WalkedGroup();
+  }
+  if (group == nullptr) return;
+  auto members = Members(*group);
+  const auto here = std::find(members.begin(), members.end(), EntryOf(*group));
   if (here != members.end()) std::rotate(members.begin(), here + 1, members.end());
   for (ControlWidget* widget : members) {
     const auto shown = QString::fromStdString(SpokenContent(widget->control()));

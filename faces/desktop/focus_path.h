@@ -32,8 +32,8 @@ class FocusPath {
   /// Goes to the nearest control of a walked group in a direction, as from lot to lot; an option is
   /// selected by that.
   void Walk(ControlWidget& from, QPoint direction);
-  /// Goes to the next control of a walked group that shows something with that initial, as from one
-  /// open lot to the next.
+  /// Goes to the next control that shows something with that initial, as from one open lot to the
+  /// next: in the walked group where the keyboard is, else in the first one.
   void WalkToInitial(ControlWidget& from, const QString& initial);
 
  private:

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "faces/desktop/placing.h"
+#include "surface/speech.h"
 
 namespace zelvo {
 namespace {
@@ -70,12 +71,30 @@ WindowView::WindowView(Window& window, Desk& desk)
       desk_(desk),
       widgets_(MakeWidgets()),
       focusPath_(widgets_) {
+  MakeGroups();
   setMouseTracking(true);
   if (IsDialog()) {
     setWindowModality(Qt::ApplicationModal);
   } else {
     setMinimumSize(DesignPixels(smallestScale));
   }
+}
+
+void WindowView::MakeGroups() {
+  for (ControlWidget* widget : widgets_) {
+    const Group* group = widget->control().design().group;
+    if (group == nullptr) continue;
+    ControlGroup* known = GroupOf(*widget);
+    if (known == nullptr) groups_.push_back(known = new ControlGroup(*group, this));
+    known->members.push_back(widget);
+  }
+}
+
+ControlGroup* WindowView::GroupOf(const ControlWidget& widget) const {
+  const auto found = std::find_if(groups_.begin(), groups_.end(), [&widget](ControlGroup* known) {
+    return &known->group == widget.control().design().group;
+  });
+  return found == groups_.end() ? nullptr : *found;
 }
 
 /// Makes a widget, owned by this one, for each control that the client area shows.
@@ -131,6 +150,8 @@ void WindowView::Open(const WindowView* opener) {
   }
   LayOut();
   for (ControlWidget* widget : widgets_) widget->SyncOnOpening();
+  // A screen reader reads out a dialog that comes up, but not another window.
+  if (IsDialog()) desk_.voice.NoteAsTold(widgets_);
   Sync();
   focusPath_.Start();
   frameIsNew_ = true;
@@ -251,6 +272,7 @@ void WindowView::Sync() {
   setWindowTitle(window_.Caption.empty() ? " " : QString::fromStdString(window_.Caption));
   if (window_.extent != extent_ && !MustStayMinimised()) ApplyExtent();
   for (ControlWidget* widget : widgets_) widget->Sync();
+  desk_.voice.TellNews(widgets_);
 }
 
 /// What comes back from being minimised comes up on top and active on most desktops. So the start
@@ -274,9 +296,20 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {
-  if (event->isAutoRepeat()) return;
+  if (event->isAutoRepeat() || IsSpeechKey(event->key())) return;
   const Key key = KeyOf(*event);
   if (key != Key::None) PressByKey(key);
+}
+
+/// Tells those who do not see the game what they ask for.
+bool WindowView::IsSpeechKey(int key) {
+  if (key == Qt::Key_F2) desk_.voice.Say(QString::fromStdString(SpokenNews(window_)));
+  if (key == Qt::Key_F3) {
+    desk_.Deliver([this](Surface& surface) {
+      desk_.voice.Say(QString::fromStdString(SpokenStanding(surface)));
+    });
+  }
+  return key == Qt::Key_F2 || key == Qt::Key_F3;
 }
 
 void WindowView::PressByKey(Key key) {

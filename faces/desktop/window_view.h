@@ -11,6 +11,14 @@
 
 namespace zelvo {
 
+/// Controls of a window that helpers see as one thing.
+class ControlGroup : public QObject {
+ public:
+  ControlGroup(const Group& theGroup, QObject* window) : QObject(window), group(theGroup) {}
+  const Group& group;
+  std::vector<ControlWidget*> members;
+};
+
 /// Any window of the game on the screen. It walks the window's controls and makes a widget for
 /// each; the contents scale with the window and keep their proportions.
 class WindowView : public QWidget {
@@ -22,6 +30,8 @@ class WindowView : public QWidget {
   /// Those that the client area shows, in the order of the window's controls.
   const std::vector<ControlWidget*>& widgets() const { return widgets_; }
   ControlWidget* Find(const Control& control) const;
+  /// The group that a control belongs to; null if it stands alone.
+  ControlGroup* GroupOf(const ControlWidget& widget) const;
 
   /// Puts the window on the screen, whole with its frame: a dialog centred over its opener and at
   /// its scale, but beside what it is to keep clear of; another one in the opener's place. Without
@@ -63,6 +73,7 @@ class WindowView : public QWidget {
 
  private:
   std::vector<ControlWidget*> MakeWidgets();
+  void MakeGroups();
   QSize DesignPixels(double scale) const;
   void TakePlaceOf(const WindowView& opener);
   void PlaceOnScreen();
@@ -76,11 +87,13 @@ class WindowView : public QWidget {
   void TellSize();
   void DeliverClick(const std::function<void(Surface&)>& click);
   void Mark(ControlWidget& widget);
+  bool IsSpeechKey(int key);
   void PressByKey(Key key);
 
   Window& window_;
   Desk& desk_;
   std::vector<ControlWidget*> widgets_;
+  std::vector<ControlGroup*> groups_;
   FocusPath focusPath_;
   Extent extent_ = Extent::Normal;  // as the widget shows it
   bool opening_ = false;

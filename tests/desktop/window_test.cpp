@@ -1,6 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <QAccessible>
 #include <QApplication>
 #include <QFile>
 #include <QPlainTextEdit>
@@ -172,26 +171,6 @@ TEST_F(OnScreen, APictureThatIsMissingOrBrokenIsToldOfOnceAndPutInWords) {
             start + "/icf-golf.svg cannot be shown: it is no SVG picture\n" + start +
                 "/icf-park.svg cannot be shown: No such file or directory\n" + start +
                 "/zelvo.svg cannot be shown: No such file or directory\n");
-}
-
-TEST_F(OnScreen, HelpersHearWhatAControlIs) {
-  StartGame();
-  game.GFM->Image1[37].Picture = PictureId::ICF_HILTON;
-  const auto voice = [this](Control& control) {
-    return QAccessible::queryAccessibleInterface(&Widget(control));
-  };
-  for (const auto& [control, name] : {std::pair{&game.GFM->Image1[37], "Lot 37, computer's Hilton"},
-                                      {&game.GFM->CMDGO, "End of turn"}}) {
-    EXPECT_EQ(voice(*control)->text(QAccessible::Name), name);
-    EXPECT_EQ(voice(*control)->text(QAccessible::Description), "");
-  }
-  QAccessibleActionInterface* lot = voice(game.GFM->Image1[5])->actionInterface();
-  ASSERT_NE(lot, nullptr);
-  lot->doAction(QAccessibleActionInterface::pressAction());
-  EXPECT_EQ(game.CurLot, 5);
-  Exhibit(game.ICF);
-  EXPECT_EQ(voice(game.ICF->CKBANK)->role(), QAccessible::CheckBox);
-  EXPECT_TRUE(voice(game.ICF->CKBANK)->state().checked);
 }
 
 }  // namespace

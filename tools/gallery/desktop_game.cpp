@@ -82,6 +82,7 @@ Machine DesktopGame::TestMachine() {
   machine.clock = [this] { return now; };
   machine.tickLength = [this](int) { return tickLength; };
   machine.leave = [] {};
+  machine.speaker = [this](const QString& text) { spoken.push_back(text.toStdString()); };
   auto player = std::make_unique<SilentPlayer>();
   sound = player.get();
   machine.sound = std::move(player);

@@ -43,6 +43,7 @@ class DesktopGame {
   TimeOfDay now{12, 30, 37};
   int tickLength = 0;  ///< milliseconds of any timer's interval
   SilentPlayer* sound = nullptr;
+  std::vector<std::string> spoken;
   DesktopPlatform platform;
   Game game;
 

@@ -1,0 +1,162 @@
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QLabel>
+#include <QMessageBox>
+#include <algorithm>
+#include <utility>
+
+#include "tests/desktop/player.h"
+
+namespace zelvo {
+namespace {
+
+QAccessibleInterface* Voice(QObject* object) {
+  return QAccessible::queryAccessibleInterface(object);
+}
+
+std::string Text(QObject* object, QAccessible::Text kind = QAccessible::Name) {
+  return Voice(object)->text(kind).toStdString();
+}
+
+class Speech : public testing::Test, public Player {
+ protected:
+  /// What was said since the last time.
+  std::vector<std::string> Heard() { return std::exchange(spoken, {}); }
+};
+
+using Texts = std::vector<std::string>;
+
+/// Walks a tree of what helpers see; gives back its objects.
+std::vector<QObject*> Walked(QAccessibleInterface* from) {
+  std::vector<QObject*> objects = {from->object()};
+  EXPECT_TRUE(from->text(QAccessible::Name).isEmpty() ||
+              from->text(QAccessible::Name) != from->text(QAccessible::Description));
+  for (int i = 0; i < from->childCount(); ++i) {
+    QAccessibleInterface* part = from->child(i);
+    EXPECT_EQ(from->indexOfChild(part), i);
+    EXPECT_EQ(part->parent()->object(), from->object());
+    const auto below = Walked(part);
+    objects.insert(objects.end(), below.begin(), below.end());
+  }
+  return objects;
+}
+
+TEST_F(Speech, WindowsAreTreesOfTheirControls) {
+  StartGame();
+  QAccessibleInterface* board = Voice(&Widget(game.GFM->Image1[37]))->parent();
+  EXPECT_EQ(board->role(), QAccessible::Grouping);
+  EXPECT_EQ(board->text(QAccessible::Name), "Board");
+  EXPECT_EQ(board->childCount(), lotCount);
+  EXPECT_TRUE(board->rect().contains(Voice(&Widget(game.GFM->Image1[99]))->rect()));
+  for (Window* window : game.Windows()) {
+    SCOPED_TRACE(window->name());
+    Exhibit(*window);
+    WindowView& view = View(*window);
+    EXPECT_EQ(Voice(&view)->role(), view.IsDialog() ? QAccessible::Dialog : QAccessible::Window);
+    const auto objects = Walked(Voice(&view));
+    for (ControlWidget* widget : view.widgets()) {
+      if (!widget->TakesFocus()) continue;
+      EXPECT_EQ(std::ranges::count(objects, widget), 1) << widget->control().FullName();
+    }
+    game.Hide(*window);
+    platform.Sync();
+  }
+}
+
+TEST_F(Speech, ADialogTellsItsTitleAndItsTextsInTheirOrder) {
+  StartGame();
+  OnceShown(game.ML, [this] {
+    EXPECT_EQ(Text(&View(game.ML)), "Mall");
+    const std::string texts = Text(&View(game.ML), QAccessible::Description);
+    EXPECT_TRUE(texts.starts_with("Property zoned for a Mall. This property has been zone"))
+        << texts;
+    EXPECT_EQ(Heard(), Texts()) << "that was told with the dialog";
+    game.ML->Label2.Caption = "What else ?";
+    platform.Sync();
+    EXPECT_EQ(Heard(), Texts({"What else ?"}));
+    Type(Qt::Key_F2);
+    EXPECT_EQ(Heard(), Texts({"Property zoned for a Mall. What else ?"}));
+    game.Hide(game.ML);
+  });
+  Heard();
+  game.CurLot = 5;
+  game.ShowModal(game.ML);
+}
+
+TEST_F(Speech, NewsIsSpokenOnceWhenItChangesOrComesIntoSight) {
+  StartGame();
+  Heard();
+  Control& news = game.GFM->LSHOW;
+  const auto after = [&](const char* caption, bool visible = true) {
+    news.Caption = caption;
+    news.Visible = visible;
+    platform.Sync();
+    platform.Sync();
+    return Heard();
+  };
+  EXPECT_EQ(after("Lot #  5\n\rOpened "), Texts({"Lot # 5, Opened"}));
+  EXPECT_EQ(after("Lot #  5\n\rOpened ", false), Texts());
+  EXPECT_EQ(after("Lot #  5\n\rOpened "), Texts({"Lot # 5, Opened"}));
+  EXPECT_EQ(after(""), Texts());
+  // What is no news is told to whoever asks for it.
+  game.GFM->PCredit.Caption = "$5";
+  game.GFM->Image1[37].Picture = PictureId::ICF_HILTON;
+  platform.Sync();
+  EXPECT_EQ(Heard(), Texts());
+  EXPECT_EQ(Text(&Widget(game.GFM->Image1[37])), "Lot 37, computer's Hilton");
+  Type(Qt::Key_F3);
+  ASSERT_EQ(spoken.size(), 1U);
+  EXPECT_TRUE(Heard()[0].starts_with("Player's credit, $5. Player's net worth, $"));
+}
+
+TEST_F(Speech, ATurnIsToldFromBeginningToEnd) {
+  StartGame();
+  EXPECT_EQ(Heard().back(), "Player, Choose Purchased or open lot to build or buy");
+  Type(Qt::Key_Space);  // on the player's lot
+  EXPECT_TRUE(Heard().back().starts_with("Property # 0-PU - Not Insured, Property Value is $"));
+  Type(Qt::Key_Return, Qt::ControlModifier);
+  const auto told = Heard();
+  const auto first = std::ranges::find(told, "Computer, Computer making Selection 1 now");
+  const auto built = std::ranges::find(told, "Computer Purchased a Hilton on lot 99");
+  EXPECT_TRUE(first < built && built < told.end()) << told.size();
+  EXPECT_EQ(told.back(), "Player, Choose Purchased or open lot to build or buy");
+}
+
+TEST_F(Speech, APressThatOpensADialogReturnsAtOnce) {
+  StartGame();
+  const auto press = [this](Control& control) {
+    Voice(&Widget(control))->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+  };
+  press(game.GFM->CMDHELP);
+  EXPECT_FALSE(game.ICF->IsShown());
+  bool inSetup = false;
+  OnceShown(game.ICF, [&] {
+    inSetup = true;
+    press(game.ICF->OPT1[2]);
+    press(game.ICF->CKBANK);
+    press(game.GFM->CMDGO);  // which is covered
+    press(game.ICF->cmdexit);
+  });
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(inSetup && !game.ICF->IsShown());
+  EXPECT_EQ(game.SkillLevel, 2);
+  EXPECT_EQ(game.TurnNo, 0);
+  EXPECT_TRUE(Voice(&Widget(game.ICF->OPT1[2]))->state().checked);
+  EXPECT_FALSE(Voice(&Widget(game.ICF->CKBANK))->state().checked);
+}
+
+TEST_F(Speech, AMessageBoxTellsItsTitleAndItsText) {
+  const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+  Once([box] { return box() != nullptr; },
+       [box] {
+         EXPECT_EQ(Voice(box())->role(), QAccessible::AlertMessage);
+         EXPECT_EQ(Text(box()), "Buy out");
+         EXPECT_EQ(Text(box()->findChild<QLabel*>("qt_msgbox_label")), "One\nTwo");
+         box()->reject();
+       });
+  game.MessageBox("One\n\rTwo", MessageStyle::Ok, "Buy out");
+}
+
+}  // namespace
+}  // namespace zelvo

@@ -21,7 +21,7 @@ import time
 import zlib
 
 TREE = pathlib.Path(__file__).resolve().parents[2]
-BUILD = pathlib.Path(os.environ.get("ZELVO_BUILD", TREE / "build/release"))
+BUILD = pathlib.Path(os.environ.get("ZELVO_BUILD", TREE / "build/release")).resolve()
 LIMIT = 30  # seconds, for what should be there at once
 
 
@@ -127,10 +127,17 @@ class Machine:
             "--load=module-native-protocol-unix auth-anonymous=1")
         wait_until(lambda: "null" in self.run("pactl", "list", "short", "sinks", check=False),
                    "a sound server")
+        self.sound_news = self.start("pactl", "subscribe")
+        wait_until(lambda: "pactl" in self.run("pactl", "list", "clients"), "a listener")
 
     def streams(self):
-        """What the sound server's mixer shows: the properties of all open streams."""
+        """The open streams, as the sound server's mixer shows them."""
         return self.run("pactl", "list", "sink-inputs")
+
+    def streams_begun(self):
+        """How many streams this sound server was ever asked for, however short."""
+        said = self.sound_news.log.read_text()
+        return said.count("Event 'new' on sink-input")
 
     def screenshot(self, file=None):
         """The screen as rows of (blue, green, red, _) bytes; also as a PNG if a file is named."""
@@ -163,15 +170,16 @@ class Game:
     def __init__(self, machine, process):
         self.machine, self.process = machine, process
 
+    def window_numbers(self, *options):
+        """The numbers of the program's windows; with "--onlyvisible" those that are shown."""
+        return self.machine.run("xdotool", "search", "--all", *options, "--pid",
+                                str(self.process.pid), "--name", "", check=False).split()
+
     def windows(self):
         """The titles of the shown windows by their number; message boxes too."""
-        found = {}
-        shown = self.machine.run("xdotool", "search", "--all", "--onlyvisible", "--pid",
-                                 str(self.process.pid), "--name", "", check=False)
-        for window in shown.split():
-            name = self.machine.run("xdotool", "getwindowname", window, check=False)
-            found[window] = name.rstrip("\n")
-        return found
+        return {window: self.machine.run("xdotool", "getwindowname", window,
+                                         check=False).rstrip("\n")
+                for window in self.window_numbers("--onlyvisible")}
 
     def window(self, *titles, limit=LIMIT):
         """Waits for a window with one of the titles and gives back its number."""
@@ -190,9 +198,24 @@ class Game:
         values = dict(line.split("=") for line in said.split())
         return tuple(int(values[name]) for name in ("X", "Y", "WIDTH", "HEIGHT"))
 
+    def settled(self, window):
+        """The geometry of a window that the window manager no longer moves."""
+        seen, times = None, 0
+
+        def is_settled():
+            nonlocal seen, times
+            last, seen = seen, self.geometry(window)
+            times = times + 1 if seen == last else 0
+            return times == 4
+        wait_until(is_settled, "a window that stands still")
+        return seen
+
     def place(self, control, window):
         """The middle of a control (such as GFM.CMDGO) on the screen."""
-        left, top, width, height = self.geometry(window)
+        return self.middle(control, self.settled(window))
+
+    def middle(self, control, geometry):
+        left, top, width, height = geometry
         name = control.split(".")[0]
         _, _, design_width, design_height = self.places()[name]
         scale = min(width / design_width, height / design_height)

@@ -7,19 +7,18 @@ from machine import Machine, wait_until
 
 class Sound(unittest.TestCase):
     def setUp(self):
-        self.machine = self.enterContext(Machine(sound=True))
+        self.machine = Machine(sound=True).__enter__()
+        self.addCleanup(self.machine.__exit__)
 
-    def sounds(self):
-        return "Sink Input" in self.machine.streams()
-
-    def wait_for_sound(self, game):
-        def heard():
+    def wait_for_sound(self, game, after=0):
+        """Waits until more than `after` sounds have begun since the server did."""
+        def begun():
             game.must_run()
-            return self.sounds()
-        wait_until(heard, "a stream")
+            return self.machine.streams_begun() > after
+        wait_until(begun, "a sound")
 
     def wait_for_silence(self):
-        wait_until(lambda: not self.sounds(), "no stream")
+        wait_until(lambda: "Sink Input" not in self.machine.streams(), "no stream")
 
     def server(self, number):
         self.machine.sound_server.send_signal(number)
@@ -34,7 +33,7 @@ class Sound(unittest.TestCase):
     def test_the_mixer_shows_the_name_and_no_stream_at_rest(self):
         game = self.machine.play()
         self.wait_for_sound(game)
-        self.assertIn('application.name = "Zelvo"', self.machine.streams())
+        self.assertIn('application.name = "Zelvo"', self.machine.run("pactl", "list", "clients"))
         self.wait_for_silence()
         self.leave(game)
 
@@ -50,8 +49,9 @@ class Sound(unittest.TestCase):
         game.must_run()
         self.wait_for_silence()
         # A close request in the middle of a cue.
-        board = game.open_board()
-        self.wait_for_sound(game)
+        sounds = self.machine.streams_begun()
+        game.open_board()
+        self.wait_for_sound(game, sounds)
         game.close(start)
         self.assertEqual(game.wait_for_end(), 0)
 
@@ -60,15 +60,14 @@ class Sound(unittest.TestCase):
             with self.subTest(moment):
                 if moment == "before the first window":
                     self.server(signal.SIGSTOP)
+                sounds = self.machine.streams_begun()
                 game = self.machine.play()
                 if moment == "in the opening cue":
-                    self.wait_for_sound(game)
+                    self.wait_for_sound(game, sounds)
                     self.server(signal.SIGSTOP)
-                if moment == "in a new game's cue":
-                    self.wait_for_silence()
                 board = game.open_board()
                 if moment == "in a new game's cue":
-                    self.wait_for_sound(game)
+                    self.wait_for_sound(game, sounds + 1)
                     self.server(signal.SIGSTOP)
                 game.click("GFM.CMDEXIT", board)
                 game.wait_until_gone(board)

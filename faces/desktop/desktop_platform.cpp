@@ -3,8 +3,10 @@
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QThread>
 #include <QTime>
 #include <QTimer>
@@ -15,6 +17,11 @@
 
 namespace zelvo {
 namespace {
+
+// How wide the text of a message may be: what the toolkit keeps from wrapping.
+constexpr double shareOfScreen = 0.4;
+constexpr double widestText = 700;     // pixels
+constexpr double messageLetters = 13;  // pixels at scale 1
 
 TimeOfDay LocalTime() {
   // A rule may read the clock again and again until the second changes; it is not to burn the
@@ -50,6 +57,7 @@ DesktopPlatform::DesktopPlatform(Machine machine)
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   DescribeControlsToHelpers();
   qApp->installEventFilter(this);
+  qApp->installNativeEventFilter(&lostWindows_);
 }
 
 DesktopPlatform::~DesktopPlatform() = default;
@@ -149,6 +157,22 @@ bool DesktopPlatform::eventFilter(QObject* /*object*/, QEvent* event) {
   return false;
 }
 
+/// A window was destroyed by somebody else. The game counts on it as long as it shows it, so it
+/// comes anew; but who destroys the only one wants the program to end.
+void DesktopPlatform::LoseWindow(WId id) {
+  if (HasEnded()) return;
+  const auto isLost = [id](const QWidget* widget) { return widget->internalWinId() == id; };
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  if (box != nullptr && isLost(box)) return box->reject();
+  const auto lost = std::find_if(open_.begin(), open_.end(), isLost);
+  if (lost == open_.end()) return;
+  if (open_.size() == 1) {
+    surface_->End();
+  } else {
+    (*lost)->ComeAnew();
+  }
+}
+
 // Events.
 
 void DesktopPlatform::Yield() {
@@ -179,12 +203,19 @@ Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
   QMessageBox box(parent);
   box.setWindowTitle(QString::fromStdString(title));
   box.setTextFormat(Qt::PlainText);
-  box.setText(ScreenText(text));
+  if (parent != nullptr)
+    box.setFont(ScreenFont(static_cast<int>(messageLetters * parent->Scale()), false));
+  const QSize screen = box.screen()->availableSize();
+  const double width = std::min(shareOfScreen * screen.width(), widestText);
+  box.setText(InEvenLines(ScreenText(text), box.font(), width));
   if (question) box.setIcon(QMessageBox::Question);
   if (style == MessageStyle::OkExclamation) box.setIcon(QMessageBox::Warning);
   box.setStandardButtons(question ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   box.setEscapeButton(question ? QMessageBox::No : QMessageBox::Ok);
-  if (parent != nullptr) box.setFont(ScreenFont(static_cast<int>(13 * parent->Scale()), false));
+  // The toolkit would break lines anew at a width of its own.
+  for (QLabel* label : box.findChildren<QLabel*>()) {
+    if (label->text() == box.text()) label->setMinimumWidth(label->sizeHint().width());
+  }
   ReleaseHeld();
   const int button = box.exec();
   if (!question) return Answer::Ok;
@@ -242,6 +273,13 @@ void DesktopPlatform::Tick(Control& control) {
   const int length = machine_.tickLength(control.Interval());
   if (timer.interval() != length) timer.setInterval(length);  // after a held tick
   Deliver([&control](Surface& surface) { surface.Tick(control); });
+}
+
+/// A draw can read the clock for most of a second, until a second comes that suits it. The windows
+/// are painted meanwhile; what else comes is held.
+TimeOfDay DesktopPlatform::WallClock() {
+  QCoreApplication::processEvents();
+  return machine_.clock();
 }
 
 // Sound.

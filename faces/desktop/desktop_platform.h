@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "faces/desktop/desk.h"
+#include "faces/desktop/lost_window.h"
 #include "faces/desktop/sound_player.h"
 #include "faces/desktop/window_view.h"
 #include "surface/surface.h"
@@ -52,7 +53,7 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void RunModal(Window& window) override;
   Answer MessageBox(const std::string& text, MessageStyle style, const std::string& title) override;
   bool PlaySound(const std::string& path, bool waits) override;
-  TimeOfDay WallClock() override { return machine_.clock(); }
+  TimeOfDay WallClock() override;
   std::string AppFolder() override;
   void SetPointer(MousePointer pointer) override;
   void SetFocus(Control& control) override;
@@ -76,6 +77,7 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
 
   bool HasEnded() const { return surface_ == nullptr || surface_->HasEnded(); }
   void OpenAndCloseWindows();
+  void LoseWindow(WId id);
   void Tick(Control& timer);
   bool Listens() const;
   void ReleaseHeld();
@@ -93,6 +95,10 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   bool waitsForSound_ = false;
   bool syncing_ = false;
   bool syncAgain_ = false;
+  LostWindowWatch lostWindows_{[this](WId id) {
+    QMetaObject::invokeMethod(
+        this, [this, id] { LoseWindow(id); }, Qt::QueuedConnection);
+  }};
 };
 
 }  // namespace zelvo

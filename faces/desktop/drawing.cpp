@@ -4,6 +4,7 @@
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QStringList>
+#include <QTextLayout>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -97,6 +98,18 @@ void DrawKerbs(QPainter& painter, const QRectF& area, bool vertical, double unit
   }
 }
 
+QStringList LinesOf(const QString& paragraph, const QFont& font, double width) {
+  QStringList lines;
+  QTextLayout layout(paragraph, font);
+  layout.beginLayout();
+  for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+    line.setLineWidth(width);
+    lines += paragraph.mid(line.textStart(), line.textLength()).trimmed();
+  }
+  layout.endLayout();
+  return lines;
+}
+
 }  // namespace
 
 QRect Mapping::Pixels(const Box& box) const {
@@ -121,7 +134,7 @@ QFont ScreenFont(int pixels, bool bold) {
 }
 
 FittedText Fit(const QString& text, const Look& look, QSizeF area, double unit) {
-  constexpr int smallest = 4;
+  constexpr int smallest = 1;  // which can be four pixels of a dense screen
   if (look.vertical) area.transpose();
   FittedText fitted{text, {}, AlignmentOf(look) | Qt::TextWordWrap, {}};
   int pixels = std::max(smallest, static_cast<int>(std::lround(look.letterHeight * unit)));
@@ -132,6 +145,21 @@ FittedText Fit(const QString& text, const Look& look, QSizeF area, double unit) 
     if (pixels == smallest || all.contains(fitted.bounds)) return fitted;
     pixels = std::max(smallest, pixels - std::max(1, pixels / 20));
   }
+}
+
+QString InEvenLines(const QString& text, const QFont& font, double width) {
+  constexpr double step = 4;
+  QStringList all;
+  for (const QString& paragraph : text.split('\n')) {
+    QStringList lines = LinesOf(paragraph, font, width);
+    for (double narrower = width - step; narrower > 0; narrower -= step) {
+      const QStringList next = LinesOf(paragraph, font, narrower);
+      if (next.size() > lines.size()) break;
+      lines = next;
+    }
+    all += lines;
+  }
+  return all.join('\n');
 }
 
 QColor ToColor(Color color) {

@@ -39,6 +39,10 @@ QFont ScreenFont(int pixels, bool bold);
 /// takes to show all of it.
 FittedText Fit(const QString& text, const Look& look, QSizeF area, double unit);
 
+/// The text with line breaks that keep its lines within a width and make them about equally long,
+/// so that no sign stands alone on the last one.
+QString InEvenLines(const QString& text, const QFont& font, double width);
+
 QColor ToColor(Color color);
 
 /// What lies behind a control's text or picture: the ground and the border of its look.

@@ -73,11 +73,7 @@ WindowView::WindowView(Window& window, Desk& desk)
       focusPath_(widgets_) {
   MakeGroups();
   setMouseTracking(true);
-  if (IsDialog()) {
-    setWindowModality(Qt::ApplicationModal);
-  } else {
-    setMinimumSize(DesignPixels(smallestScale));
-  }
+  if (IsDialog()) setWindowModality(Qt::ApplicationModal);
 }
 
 void WindowView::MakeGroups() {
@@ -132,6 +128,7 @@ void WindowView::SetScale(double scale) {
   if (IsDialog()) {
     setFixedSize(DesignPixels(scale));
   } else {
+    setMinimumSize(DesignPixels(std::min(scale, smallestScale)));
     resize(DesignPixels(scale));
   }
 }
@@ -166,17 +163,23 @@ void WindowView::BringToFront() {
   activateWindow();
 }
 
+void WindowView::ComeAnew() {
+  windowHandle()->destroy();
+  windowHandle()->setVisible(true);
+  BringToFront();
+}
+
 void WindowView::PlaceOnScreen() {
   const QRect available = screen()->availableGeometry();
-  const QSizeF design = DesignPixels(1);
-  SetScale(shareOfScreen *
-           std::min(available.width() / design.width(), available.height() / design.height()));
+  const QSize share = available.size() * shareOfScreen;
+  SetScale(ScaleThatFits(DesignPixels(1), share, HUGE_VAL));
   QRect place(QPoint(), size());
   place.moveCenter(available.center());
   setGeometry(place);
 }
 
 void WindowView::TakePlaceOf(const WindowView& opener) {
+  setMinimumSize(opener.minimumSize());
   if (opener.isMaximized()) {
     PlaceOnScreen();  // for the day when it is no longer maximised
     setWindowState(windowState() | Qt::WindowMaximized);

@@ -39,6 +39,8 @@ class WindowView : public QWidget {
   void Open(const WindowView* opener);
   /// Makes it the window that the player sees and types into, minimised or covered as it may be.
   void BringToFront();
+  /// Comes back to the screen after its native window was destroyed from outside.
+  void ComeAnew();
   /// Carries over what the window's data holds.
   void Sync();
   /// 1 is the design size at 96 dpi.

@@ -5,6 +5,9 @@
 #include <QPlainTextEdit>
 #include <QScreen>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <cmath>
+#include <set>
 #include <tuple>
 
 #include "tools/gallery/desktop_game.h"
@@ -18,20 +21,18 @@ TEST_F(OnScreen, NoTextIsClippedAtAnyScale) {
   StartGame();
   for (Window* window : game.Windows()) {
     Exhibit(*window);
-    for (const int scale : {1, 2, 3, 4}) {
+    for (const double scale : {0.5, 0.72, 1.0, 2.0, 3.0, 4.0}) {
       View(*window).SetScale(scale);
       ASSERT_NEAR(View(*window).Scale(), scale, 0.01);
       for (ControlWidget* widget : View(*window).widgets()) {
         if (widget->control().Caption.empty()) continue;
         SCOPED_TRACE(View(*window).windowTitle().toStdString() + ", " +
                      widget->control().FullName());
-        const FittedText& text = widget->Text();
-        QSizeF area = widget->TextArea().size();
-        const Look& look = widget->control().design().look;
-        if (look.vertical) area.transpose();
-        EXPECT_TRUE(QRectF(QPointF(), area).contains(text.bounds)) << scale;
+        EXPECT_TRUE(TextFits(*widget)) << scale;
         // Smaller letters than these make it fit, but not read.
-        EXPECT_GE(text.font.pixelSize(), 0.55 * look.letterHeight * scale / 15) << scale;
+        const int letters = widget->control().design().look.letterHeight;
+        EXPECT_GE(widget->Text().font.pixelSize(), std::floor(0.55 * letters * scale / 15))
+            << scale;
       }
     }
   }
@@ -75,6 +76,62 @@ TEST_F(OnScreen, WindowsComeUpWhereTheyBelong) {
     platform.Sync();
     EXPECT_FALSE(dialog.isVisible());
   }
+}
+
+struct PaintCount : QObject {
+  bool eventFilter(QObject* /*object*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    return false;
+  }
+  int paints = 0;
+};
+
+TEST_F(OnScreen, ADrawThatWaitsForTheClockKeepsTheWindowsPainted) {
+  StartGame();
+  Exhibit(game.CHN);
+  platform.Yield();
+  PaintCount board;
+  View(game.GFM).installEventFilter(&board);
+  const int lot = game.CurLot;
+  now.second = 59;  // the third card waits for the next second
+  int reads = 0;
+  whenClockIsRead = [&] {
+    View(game.GFM).update();
+    QTimer::singleShot(0, [&] {
+      platform.Deliver([&](Surface& surface) { surface.Click(game.GFM->Image1[(lot + 1) % 100]); });
+    });
+    if (++reads == 5) now.second = 7;
+    EXPECT_EQ(game.CurLot, lot);
+  };
+  platform.Deliver([this](Surface& surface) { surface.Click(game.CHN->Image1[2]); });
+  EXPECT_EQ(reads, 5);
+  EXPECT_GE(board.paints, 3);
+}
+
+TEST_F(OnScreen, WhatSpeaksOfALotStandsBesideIt) {
+  StartGame();
+  for (Control& lot : game.GFM->Image1) lot.Tag = "PSH";
+  std::set<const Control*> seen;
+  QTimer player;
+  QObject::connect(&player, &QTimer::timeout, [&] {
+    Window* window = game.InputWindow();
+    if (window == nullptr || window->keepsClearOf == nullptr) return;
+    const Control& lot = game.GFM->Image1[game.CurLot];
+    const ControlWidget& widget = *View(game.GFM).Find(lot);
+    const QRect place(widget.mapToGlobal(QPoint()), widget.size());
+    EXPECT_FALSE(View(*window).frameGeometry().intersects(place)) << game.CurLot;
+    EXPECT_TRUE(View(*window).screen()->geometry().contains(View(*window).frameGeometry()));
+    seen.insert(&lot);
+    platform.Deliver([&](Surface& surface) {
+      surface.Click(window == &game.SV.Untouched() ? game.SV->CMDOK : game.ML->CMD1[1]);
+    });
+  });
+  player.start(0);
+  now.second = 22;  // repairs are due
+  for (int turn = 0; turn < 5; ++turn) {
+    platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDGO); });
+  }
+  EXPECT_GE(seen.size(), 5U);
 }
 
 TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {

@@ -68,6 +68,13 @@ constexpr ShownText exhibits[] = {
 
 }  // namespace
 
+bool TextFits(ControlWidget& widget) {
+  if (widget.control().Caption.empty()) return true;
+  QSizeF area = widget.TextArea().size();
+  if (widget.control().design().look.vertical) area.transpose();
+  return QRectF(QPointF(), area).contains(widget.Text().bounds);
+}
+
 DesktopGame::DesktopGame() : platform(TestMachine()), game(platform) {
   platform.Attach(game);
   game.Start();
@@ -79,7 +86,10 @@ DesktopGame::~DesktopGame() { game.End(); }
 Machine DesktopGame::TestMachine() {
   Machine machine;
   machine.dataFolder = ZELVO_SOURCE_ASSETS;
-  machine.clock = [this] { return now; };
+  machine.clock = [this] {
+    if (whenClockIsRead) whenClockIsRead();
+    return now;
+  };
   machine.tickLength = [this](int) { return tickLength; };
   machine.leave = [] {};
   machine.speaker = [this](const QString& text) { spoken.push_back(text.toStdString()); };

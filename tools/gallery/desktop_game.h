@@ -24,6 +24,9 @@ struct SilentPlayer : SoundPlayer {
   std::function<void(const WaveFile&)> whileItPlays;
 };
 
+/// True if the control's caption is drawn whole.
+bool TextFits(ControlWidget& widget);
+
 /// The real windows over a game whose clock stands and whose timers are always due.
 class DesktopGame {
  public:
@@ -41,6 +44,7 @@ class DesktopGame {
   void Exhibit(Window& window);
 
   TimeOfDay now{12, 30, 37};
+  std::function<void()> whenClockIsRead;
   int tickLength = 0;  ///< milliseconds of any timer's interval
   SilentPlayer* sound = nullptr;
   std::vector<std::string> spoken;

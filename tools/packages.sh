@@ -7,4 +7,4 @@ check_packages=("${play_packages[@]}" clang clang-format clang-tidy libgtest-dev
 tidy_packages=(python3 libbenchmark-dev)
 # For the tests of the real program: a screen, a window manager, a sound server and a bus of their own.
 machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio pulseaudio-utils dbus
-  locales)
+  locales at-spi2-core python3-pyatspi)

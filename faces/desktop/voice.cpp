@@ -39,12 +39,10 @@ void Voice::NoteAsTold(const std::vector<ControlWidget*>& widgets) {
 
 void Announcer::Say(const QString& text) {
   if (!QAccessible::isActive()) return;
-  Utterance& utterance = utterances_[next_];
-  next_ = (next_ + 1) % utterances_.size();
-  utterance.text = text;
-  QAccessibleEvent renamed(&utterance, QAccessible::NameChanged);
-  QAccessible::updateAccessibility(&renamed);
-  QAccessibleEvent shown(&utterance, QAccessible::ObjectShow);
+  constexpr std::size_t kept = 8;
+  if (utterances_.size() == kept) utterances_.pop_front();
+  utterances_.push_back(std::make_unique<Utterance>(text));
+  QAccessibleEvent shown(utterances_.back().get(), QAccessible::ObjectShow);
   QAccessible::updateAccessibility(&shown);
 }
 

@@ -2,9 +2,10 @@
 
 #include <QObject>
 #include <QString>
-#include <array>
+#include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <vector>
 
 namespace zelvo {
@@ -32,7 +33,8 @@ class Voice {
 /// Something that is said: a screen reader speaks it as it comes up, wherever the focus is.
 class Utterance : public QObject {
  public:
-  QString text;
+  explicit Utterance(QString theText) : text(std::move(theText)) {}
+  const QString text;
 };
 
 /// Hands what is to be said to the screen readers that listen.
@@ -41,9 +43,9 @@ class Announcer {
   void Say(const QString& text);
 
  private:
-  // A reader takes its time to ask for a text, so that none is replaced at once.
-  std::array<Utterance, 8> utterances_;
-  std::size_t next_ = 0;
+  // A reader takes its time to ask for a text, so they stay for a while. It may remember what it
+  // was told, so each text is a thing of its own.
+  std::deque<std::unique_ptr<Utterance>> utterances_;
 };
 
 }  // namespace zelvo

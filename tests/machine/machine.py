@@ -43,10 +43,13 @@ def wait_until(condition, what, limit=LIMIT):
 
 class Machine:
     """`size` is the screen's, `wm` the window manager's command, None for none. `environment` goes to
-    the program. With `bus` there is a session bus."""
+    the program. With `bus` there is a session bus, with `access` also the one on which screen readers
+    listen."""
 
-    def __init__(self, size="1280x1024", wm=("openbox",), sound=False, bus=False, environment=None):
-        self.size, self.wm, self.has_sound, self.has_bus = size, wm, sound, bus
+    def __init__(self, size="1280x1024", wm=("openbox",), sound=False, bus=False, access=False,
+                 environment=None):
+        self.size, self.wm, self.has_sound = size, wm, sound
+        self.has_bus, self.has_access = bus or access, access
         self.extra = environment or {}
         self.processes = []
         self.sound_server = None
@@ -68,6 +71,8 @@ class Machine:
             self._start_screen()
             if self.has_bus:
                 self._start_bus()
+            if self.has_access:
+                self._start_access()
             if self.has_sound:
                 self.start_sound()
         except BaseException:
@@ -116,6 +121,11 @@ class Machine:
         process = self.start("dbus-daemon", "--session", "--nofork", "--print-address",
                              stdout=subprocess.PIPE)
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = process.stdout.readline().decode().strip()
+
+    def _start_access(self):
+        self.environment.update(GSETTINGS_BACKEND="memory", QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
+        self.start("/usr/libexec/at-spi-bus-launcher", "--launch-immediately")
+        wait_until(lambda: "AT_SPI_BUS" in self.run("xprop", "-root"), "the accessibility bus")
 
     def start_sound(self):
         """A sound server that plays into the void. Starting it again stands for one that came

@@ -5,6 +5,7 @@ check_packages=("${play_packages[@]}" clang clang-format clang-tidy libgtest-dev
   'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')
 # clang-tidy reads the benchmarks as well.
 tidy_packages=(python3 libbenchmark-dev)
+package_packages=(dpkg-dev desktop-file-utils appstream lintian mandoc)
 # For the tests of the real program: a screen, a window manager, a sound server and a bus of their own.
 machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio pulseaudio-utils dbus
   locales at-spi2-core python3-pyatspi)

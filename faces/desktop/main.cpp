@@ -129,7 +129,7 @@ QString DataFolder() {
 
 QIcon ProgramIcon(const zelvo::Pictures& pictures) {
   QIcon icon;
-  for (const int size : {16, 32, 48, 64, 128, 256}) {
+  for (const int size : {16, 32, 48, 64, 128}) {
     icon.addPixmap(pictures.Get("zelvo.svg", {size, size}));
   }
   return icon;
@@ -152,11 +152,14 @@ int main(int argc, char** argv) {
   QPixmapCache::setCacheLimit(32 * 1024);
 
   zelvo::DesktopPlatform platform(zelvo::ThisMachine(DataFolder()));
-  QGuiApplication::setWindowIcon(ProgramIcon(platform.pictures));
   zelvo::Game game(platform);
   platform.Attach(game);
   QTimer::singleShot(0, &platform, [&game, &platform] {
     platform.Deliver([&game](zelvo::Surface&) { game.Start(); });
+  });
+  // The first window does not wait for it.
+  QTimer::singleShot(0, &platform, [&platform] {
+    QGuiApplication::setWindowIcon(ProgramIcon(platform.pictures));
   });
   return QCoreApplication::exec();
 }

@@ -16,13 +16,22 @@ namespace {
 
 class Exhibition {
  public:
+  Exhibition() {
+    open_.setSingleShot(true);
+    tell_.setSingleShot(true);
+    QObject::connect(&open_, &QTimer::timeout, [this] { ShowMessage(); });
+    QObject::connect(&tell_, &QTimer::timeout, TellOfBox);
+  }
+
   void Read() {
     std::string line;
-    if (!std::getline(std::cin, line)) return QCoreApplication::quit();
+    if (!std::getline(std::cin, line)) return QCoreApplication::exit();
     if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) box->close();
     constexpr std::string_view message = "message ";
     if (line.starts_with(message)) {
-      ShowMessage(line.substr(message.size()));
+      message_ = line.substr(message.size());
+      open_.start(0);
+      tell_.start(0);
     } else if (Window* window = desktop_.game.FindWindow(line)) {
       ShowWindow(*window);
     }
@@ -42,13 +51,13 @@ class Exhibition {
     std::cout << std::endl;
   }
 
-  void ShowMessage(const std::string& text) {
-    QTimer::singleShot(
-        0, [this, text] { desktop_.game.MessageBox(text, MessageStyle::OkExclamation); });
-    QTimer::singleShot(
-        0, [] { std::cout << QApplication::activeModalWidget()->winId() << std::endl; });
-  }
+  void ShowMessage() { desktop_.game.MessageBox(message_, MessageStyle::OkExclamation); }
 
+  static void TellOfBox() { std::cout << QApplication::activeModalWidget()->winId() << std::endl; }
+
+  std::string message_;
+  QTimer open_;  // opens the message box, in whose loop the next line is read
+  QTimer tell_;
   DesktopGame desktop_;
 };
 

@@ -52,6 +52,23 @@ constexpr Group newsGroup = {"News"};
 constexpr Group actionGroup = {"Actions"};
 constexpr Group classGroup = {"Buildings", true};
 
+/// The board at the full width; below it, side by side, what stands above one another on a wide
+/// screen.
+TallDesign TallBoard() {
+  return {.width = 5905,
+          .height = 10456,
+          .parts = {
+              {{50, 30, 5805, 5800}, {50, 30, 5805, 5800}},          // board
+              {{5970, 110, 3414, 2185}, {110, 5960, 2810, 1800}},    // ledgers
+              {{5970, 2350, 3414, 1820}, {2985, 5960, 2810, 1800}},  // news
+              {{5970, 4230, 3414, 960}, {110, 7940, 2810, 790}},     // buildings
+              {{5970, 5240, 3414, 850}, {2985, 7840, 2810, 1000}},   // actions
+              {{6240, 6140, 2880, 530}, {110, 8900, 5685, 560}},     // end of turn
+              {{5880, 30, 3594, 6696}, {50, 5860, 5805, 3670}},      // their panel
+              {{50, 5850, 5805, 876}, {50, 9550, 5805, 876}},        // level and bank
+          }};
+}
+
 constexpr int boardLevel = -2;
 constexpr int afterBoard = -1;
 
@@ -63,7 +80,8 @@ GFMWindow::GFMWindow(Surface& surface)
                        .width = 9504,
                        .height = 6756,
                        .titleBar = TitleBar::Sizable,
-                       .label = "Game board"}) {
+                       .label = "Game board",
+                       .tall = TallBoard()}) {
   PlaceBoard();
   PlaceLedgers();
   PlaceActions();

@@ -1,5 +1,7 @@
 #include "surface/control.h"
 
+#include <algorithm>
+
 #include "surface/platform.h"
 #include "surface/window.h"
 
@@ -38,6 +40,22 @@ Box Control::Place() const {
     place.top += outer->box_.top;
   }
   return place;
+}
+
+Box Control::TallPlace() const {
+  const Box place = Place();
+  const auto& parts = window_->design().tall.parts;
+  const auto part = std::find_if(parts.begin(), parts.end(),
+                                 [&](const MovedPart& p) { return p.from.Holds(place); });
+  if (part == parts.end()) return place;
+  const Box& from = part->from;
+  const Box& to = part->to;
+  // Neighbours that share an edge go on sharing it.
+  const auto x = [&](int left) { return to.left + (left - from.left) * to.width / from.width; };
+  const auto y = [&](int top) { return to.top + (top - from.top) * to.height / from.height; };
+  const int left = x(place.left);
+  const int top = y(place.top);
+  return {left, top, x(place.left + place.width) - left, y(place.top + place.height) - top};
 }
 
 bool Control::VisibleInWindow() const {

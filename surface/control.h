@@ -19,6 +19,12 @@ struct Box {
   int top = 0;
   int width = 0;
   int height = 0;
+
+  /// True if the other box lies within this one.
+  constexpr bool Holds(const Box& other) const {
+    return other.left >= left && other.top >= top && other.left + other.width <= left + width &&
+           other.top + other.height <= top + height;
+  }
 };
 
 enum class Align : unsigned char { Left, Center, Right };
@@ -135,6 +141,8 @@ class Control {
   const ControlDesign& design() const { return design_; }
   /// The place in the window in twips, containers reckoned in.
   Box Place() const;
+  /// The place in the arrangement of the window for a tall screen.
+  Box TallPlace() const;
   /// True if the control and the panels that hold it are all visible.
   bool VisibleInWindow() const;
 

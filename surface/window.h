@@ -17,6 +17,20 @@ enum class WindowState : unsigned char { NotLoaded, Hidden, Shown };
 /// How a shown window stands on the desktop.
 enum class Extent : unsigned char { Normal, Minimised, Maximised };
 
+/// A part of a window and where it lies in another arrangement of it, both seen from the window.
+struct MovedPart {
+  Box from;
+  Box to;
+};
+
+/// A second arrangement of a window, for screens that are higher than wide.
+struct TallDesign {
+  int width = 0;   ///< of the client area, twips; 0 for a window without one
+  int height = 0;  ///< of the client area, twips
+  /// The first part that holds a control takes it along.
+  std::vector<MovedPart> parts = {};
+};
+
 struct WindowDesign {
   std::string_view name;
   std::string_view title;
@@ -26,6 +40,7 @@ struct WindowDesign {
   Color ground = 0xd7d9dc;
   /// What the window is, for those who do not see it; empty where its title says it.
   std::string_view label = {};
+  TallDesign tall = {};
 };
 
 /// The functions that a window raises in its life, from the table of events; null where there is

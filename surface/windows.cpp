@@ -16,10 +16,37 @@ constexpr Group cardGroup = {"Chance cards", true};
 
 constexpr int afterOptions = 1;
 
+TallDesign TallStart() {
+  return {.width = 6400,
+          .height = 6300,
+          .parts = {
+              {{546, 480, 8412, 3000}, {250, 250, 5900, 2104}},     // picture
+              {{546, 3610, 8412, 940}, {250, 2650, 5900, 900}},     // texts
+              {{1752, 4740, 6000, 1400}, {250, 4200, 5900, 1800}},  // buttons
+              {{200, 180, 9104, 6396}, {100, 100, 6200, 6100}},     // their panel
+          }};
+}
+
+/// The legend above the options.
+TallDesign TallSetup() {
+  return {.width = 4774,
+          .height = 6520,
+          .parts = {
+              {{200, 200, 4374, 2960}, {200, 200, 4374, 2960}},
+              {{4774, 200, 4374, 2960}, {200, 3360, 4374, 2960}},
+          }};
+}
+
 }  // namespace
 
 GSTWindow::GSTWindow(Surface& surface)
-    : Window(surface, {"GST", "Zelvo 32", 9504, 6756, TitleBar::Sizable, night}) {
+    : Window(surface, {.name = "GST",
+                       .title = "Zelvo 32",
+                       .width = 9504,
+                       .height = 6756,
+                       .titleBar = TitleBar::Sizable,
+                       .ground = night,
+                       .tall = TallStart()}) {
   Place(NAMED(Panel3D1), Kind::Panel, {200, 180, 9104, 6396}, {.look = panel});
   Place(NAMED(Image2), Kind::Image, {346, 300, 8412, 3000}, {.picture = PictureId::GST_Image2},
         &Panel3D1);
@@ -39,7 +66,12 @@ GSTWindow::GSTWindow(Surface& surface)
 }
 
 ICFWindow::ICFWindow(Surface& surface)
-    : Window(surface, {"ICF", "Zelvo Setup options", 9348, 3360, TitleBar::NoBorder}) {
+    : Window(surface, {.name = "ICF",
+                       .title = "Zelvo Setup options",
+                       .width = 9348,
+                       .height = 3360,
+                       .titleBar = TitleBar::NoBorder,
+                       .tall = TallSetup()}) {
   // Bare ground around the panels: over it the legend line says what to do.
   Place(NAMED(Panel3D1), Kind::Panel, {200, 200, 4374, 2960}, {.look = panel});
   Place(NAMED(Panel3D2), Kind::Panel, {4774, 200, 4374, 2960}, {.look = panel});

@@ -3,6 +3,7 @@
 #include <functional>
 #include <set>
 
+#include "faces/headless/auto_player.h"
 #include "surface/speech.h"
 #include "tests/position.h"
 
@@ -305,6 +306,32 @@ TEST(WindowLife, TheFrontIsWhereTheGamePutsIt) {
   EXPECT_EQ(game.broughtToFront(), ++times) << "in front already, but perhaps minimised";
   game.Click(game.GFM->CMDEXIT);
   EXPECT_EQ(stack(), "GST ");
+}
+
+TEST(Surface, InATallArrangementEverythingLiesInTheWindowAndNothingOnAnotherThing) {
+  AutoPlayer player;
+  int tallWindows = 0;
+  for (const Window* window : player.game().Windows()) {
+    const TallDesign& tall = window->design().tall;
+    if (tall.width == 0) continue;
+    ++tallWindows;
+    const Box all = {0, 0, tall.width, tall.height};
+    const auto overlap = [](const Box& one, const Box& other) {
+      return one.left < other.left + other.width && other.left < one.left + one.width &&
+             one.top < other.top + other.height && other.top < one.top + one.height;
+    };
+    for (const Control* one : window->controls()) {
+      if (one->kind() == Kind::Timer) continue;
+      EXPECT_TRUE(all.Holds(one->TallPlace())) << window->name() << "." << one->FullName();
+      for (const Control* other : window->controls()) {
+        if (other == one || other->kind() == Kind::Timer) continue;
+        EXPECT_EQ(overlap(one->TallPlace(), other->TallPlace()),
+                  overlap(one->Place(), other->Place()))
+            << window->name() << ": " << one->FullName() << " and " << other->FullName();
+      }
+    }
+  }
+  EXPECT_EQ(tallWindows, 3);
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "faces/shown.h"
 
+#include "surface/window.h"
+
 namespace zelvo {
 
 Shown Shown::Of(const Control& control) {
@@ -11,6 +13,12 @@ bool Shown::Shows(const Control& control) const {
   return visible == control.VisibleInWindow() && picture == control.Picture &&
          enabled == control.Enabled() && value == control.Value() && caption == control.Caption &&
          text == control.Text;
+}
+
+bool IsDrawn(const Control& control) {
+  const Box place = control.Place();
+  const WindowDesign& design = control.window().design();
+  return control.kind() != Kind::Timer && place.left < design.width && place.top < design.height;
 }
 
 }  // namespace zelvo

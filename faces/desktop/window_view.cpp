@@ -57,12 +57,6 @@ Key KeyOf(const QKeyEvent& event) {
   return event.key() == Qt::Key_F1 ? Key::F1 : Key::None;
 }
 
-bool OnClientArea(const Control& control) {
-  const Box place = control.Place();
-  const WindowDesign& design = control.window().design();
-  return place.left < design.width && place.top < design.height;
-}
-
 }  // namespace
 
 WindowView::WindowView(Window& window, Desk& desk)
@@ -97,7 +91,7 @@ ControlGroup* WindowView::GroupOf(const ControlWidget& widget) const {
 std::vector<ControlWidget*> WindowView::MakeWidgets() {
   std::vector<ControlWidget*> widgets;
   for (Control* control : window_.controls()) {
-    if (control->kind() == Kind::Timer || !OnClientArea(*control)) continue;
+    if (!IsDrawn(*control)) continue;
     widgets.push_back(new ControlWidget(*control, *this));
   }
   return widgets;

@@ -42,6 +42,9 @@ class ScriptedGame : public VirtualPlatform {
 
   static constexpr std::size_t longestCommand = 65'536;
 
+  /// What takes input: the name of a window, or "message box".
+  std::string Waiting();
+
  private:
   struct OpenMessage {
     std::string text;
@@ -55,7 +58,6 @@ class ScriptedGame : public VirtualPlatform {
   Surface& surface() override { return game_; }
 
   void PrintLine(std::string_view waiting);
-  std::string Waiting();
 
   // Each carries out a command and returns why not, in plain words, or an empty text.
   std::string Execute(std::string_view line);

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "faces/shown.h"
+#include "surface/surface.h"
+
+namespace zelvo {
+
+/// The page as the game sees it: it is told the design of all windows once, and then whatever is no
+/// longer as it was told.
+class Page {
+ public:
+  explicit Page(Surface& surface);
+
+  /// Tells the page how the windows and their controls are made.
+  void Build();
+  /// Tells the page what has changed since.
+  void Sync();
+  /// The same, and what takes input, now that the game waits for the player; empty once it runs on.
+  void SyncWaiting(std::string_view waiting);
+
+  void OpenMessage(std::string_view text, MessageStyle style, std::string_view title);
+  void CloseMessage();
+  void SetPointer(MousePointer pointer);
+  /// Gives a control the keyboard's focus.
+  void Focus(const Control& control);
+  /// The player has clicked a control: it is in hand, if it is a picture of an array.
+  void TakeInHand(const Control& control);
+  /// The player has nothing in hand.
+  void EmptyHand();
+
+ private:
+  struct Drawn {
+    const Control* control;
+    Shown shown;
+  };
+  struct Frame {
+    const Window* window;
+    std::string title;
+  };
+
+  void SyncFrames();
+  void SyncControls();
+  void Tell(std::string_view name, std::string_view json);
+  int PlaceOf(const Control& control) const;
+  int PlaceOf(const Window& window) const;
+
+  Surface& surface_;
+  // The page knows controls and windows by their places here.
+  std::vector<Drawn> drawn_;
+  std::vector<Frame> frames_;
+  std::vector<Window*> stack_;         // of open windows, as last told
+  std::vector<std::string> messages_;  // open ones as JSON, innermost last
+  std::string waiting_;
+  const Control* inHand_ = nullptr;
+  std::string changes_;  // members of a JSON object that the page has still to be told
+};
+
+}  // namespace zelvo

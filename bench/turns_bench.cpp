@@ -7,6 +7,7 @@
 #include "faces/headless/auto_player.h"
 #include "faces/headless/stream_game.h"
 #include "game/lots.h"
+#include "journal/journal.h"
 
 namespace zelvo {
 namespace {
@@ -64,6 +65,35 @@ void BuildingTurns(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BuildingTurns);
+
+/// The same with a journal between the game and its machine.
+class RecordedPlayer : public VirtualPlatform {
+ public:
+  RecordedPlayer() { journal_.Attach(game_); }
+  Game& game() { return game_; }
+  Answer MessageBox(const std::string& /*text*/, MessageStyle style,
+                    const std::string& /*title*/) override {
+    return style == MessageStyle::YesNoQuestion ? Answer::No : Answer::Ok;
+  }
+
+ private:
+  void WaitForPlayer() override { Insure(game_); }
+  Surface& surface() override { return game_; }
+
+  Journal journal_{*this};
+  Game game_{journal_};
+};
+
+void RecordedBuildingTurns(benchmark::State& state) {
+  RecordedPlayer player;
+  StartGame(player.game());
+  for (auto _ : state) {
+    BuyAndBuild(player.game());
+    EndTurn(player.game());
+  }
+  state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(RecordedBuildingTurns);
 
 /// Board events one after the other, on a board that is laid out anew whenever `fill` says what
 /// stands on its lots.

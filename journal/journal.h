@@ -38,7 +38,9 @@ class Journal final : public Platform {
   /// wait that ends by itself.
   const std::vector<std::size_t>& deedsAtRest() const { return deedsAtRest_; }
   /// True while the game waits for nothing but the player.
-  bool IsAtRest() const { return waits_.empty() || waits_.back() == WaitKind::ForPlayer; }
+  bool IsAtRest() const {
+    return surface_->IsOpen() && (waits_.empty() || waits_.back() == WaitKind::ForPlayer);
+  }
 
   /// Lets go of the game: its machine hears no more of it, and all its waits return at once.
   void Abandon();

@@ -86,6 +86,7 @@ void DesktopPlatform::Sync() {
     if (newFront && Front() != nullptr) Front()->BringToFront();
   } while (syncAgain_ && !HasEnded());
   syncing_ = false;
+  if (whenSynced && !HasEnded()) whenSynced();
 }
 
 void DesktopPlatform::OpenAndCloseWindows() {
@@ -113,7 +114,9 @@ struct DesktopPlatform::ReleasedEvent : QEvent {
   Held held;
 };
 
-bool DesktopPlatform::Listens() const { return !waitsForSound_ && !syncing_ && surface_->IsOpen(); }
+bool DesktopPlatform::Listens() const {
+  return !waitsForSound_ && !syncing_ && !paused_ && surface_->IsOpen();
+}
 
 void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event, const void* subject) {
   if (HasEnded()) return;
@@ -122,9 +125,64 @@ void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event, const 
     held_.push_back({subject, event});
     return;
   }
-  event(*surface_);
-  Sync();
+  {
+    const QScopedValueRollback deeper(depth_, depth_ + 1);
+    event(*surface_);
+    Sync();
+  }
   ReleaseHeld();
+  if (depth_ == 0 && idle_) WhenIdle(std::exchange(idle_, {}));
+}
+
+// A game in the place of another.
+
+void DesktopPlatform::WhenIdle(std::function<void()> what) {
+  idle_ = std::move(what);
+  if (depth_ == 0) {
+    QMetaObject::invokeMethod(this, &DesktopPlatform::RunIdle, Qt::QueuedConnection);
+  }
+}
+
+void DesktopPlatform::RunIdle() {
+  if (depth_ == 0 && idle_) std::exchange(idle_, {})();
+}
+
+void DesktopPlatform::Detach() {
+  surface_ = nullptr;
+  held_.clear();
+  heldTicks_.clear();
+  QCoreApplication::removePostedEvents(this, QEvent::User);
+  for (const auto& [control, timer] : timers_) timer->stop();
+  for (WindowView* view : open_) view->ClearMark();
+  followed_ = -1;
+}
+
+void DesktopPlatform::CloseMessageBoxes() {
+  for (QMessageBox* box : boxes_) box->reject();
+}
+
+void DesktopPlatform::Pause(bool paused) {
+  paused_ = paused;
+  if (!HasEnded()) ReleaseHeld();
+}
+
+void DesktopPlatform::SetPace(int pace) {
+  pace_ = pace;
+  for (const auto& [control, timer] : timers_) {
+    if (timer->isActive()) timer->start(TickLength(*control));
+  }
+}
+
+void DesktopPlatform::TellExtents() {
+  for (Window* window : std::vector<Window*>(surface_->Stack())) {
+    WindowView* view = ViewOf(*window);
+    const bool open = std::find(open_.begin(), open_.end(), view) != open_.end();
+    Extent extent = window->extent == Extent::Minimised ? Extent::Normal : window->extent;
+    if (open) extent = view->extent();
+    if (extent == window->extent) continue;
+    window->extent = extent;
+    Deliver([window, extent](Surface& surface) { surface.Resize(*window, extent); }, view);
+  }
 }
 
 /// Puts what was held ahead of all that comes next. Each is an event of its own: the game may yield
@@ -217,7 +275,9 @@ Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
     if (label->text() == box.text()) label->setMinimumWidth(label->sizeHint().width());
   }
   ReleaseHeld();
+  boxes_.push_back(&box);
   const int button = box.exec();
+  boxes_.pop_back();
   if (!question) return Answer::Ok;
   return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
@@ -257,10 +317,14 @@ void DesktopPlatform::TimerChanged(Control& control) {
     connect(timer.get(), &QTimer::timeout, this, [this, &control] { Tick(control); });
   }
   if (control.Ticks()) {
-    timer->start(machine_.tickLength(control.Interval()));
+    timer->start(TickLength(control));
   } else {
     timer->stop();
   }
+}
+
+int DesktopPlatform::TickLength(const Control& timer) const {
+  return machine_.tickLength(timer.Interval()) / pace_;
 }
 
 void DesktopPlatform::Tick(Control& control) {
@@ -270,7 +334,7 @@ void DesktopPlatform::Tick(Control& control) {
     return;
   }
   QTimer& timer = *timers_.at(&control);
-  const int length = machine_.tickLength(control.Interval());
+  const int length = TickLength(control);
   if (timer.interval() != length) timer.setInterval(length);  // after a held tick
   Deliver([&control](Surface& surface) { surface.Tick(control); });
 }
@@ -307,8 +371,8 @@ void DesktopPlatform::WaitForSound(std::chrono::milliseconds longest) {
   QTimer end;
   end.setSingleShot(true);
   end.setTimerType(Qt::PreciseTimer);
-  end.start(longest);
-  while (end.isActive() && machine_.sound->IsPlaying()) {
+  end.start(longest / pace_);
+  while (end.isActive() && machine_.sound->IsPlaying() && !HasEnded()) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
 }

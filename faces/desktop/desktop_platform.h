@@ -16,6 +16,7 @@
 #include "faces/desktop/window_view.h"
 #include "surface/surface.h"
 
+class QMessageBox;
 class QTimer;
 
 namespace zelvo {
@@ -43,6 +44,24 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
 
   /// Ties the platform to the game that runs on it, ahead of the game's start.
   void Attach(Surface& surface) { surface_ = &surface; }
+  /// Makes ready for another game in the place of one that was let go: the windows stay on the
+  /// screen until the new game has shown which it has.
+  void Detach();
+  /// Calls once no handler of the game stands on the stack any more, from the event loop.
+  void WhenIdle(std::function<void()> what);
+  /// Called whenever the windows show what the game's data holds, and the game waits or rests.
+  std::function<void()> whenSynced;
+  /// Takes away the message boxes of a game that was let go.
+  void CloseMessageBoxes();
+  /// While it is paused, nothing reaches the game.
+  void Pause(bool paused);
+  bool IsPaused() const { return paused_; }
+  /// Makes the waits so many times as fast.
+  void SetPace(int pace);
+  int pace() const { return pace_; }
+  /// Tells the game of windows whose size on the screen is not what its data says, as after a list
+  /// was played. A window that was minimised comes up at its normal size.
+  void TellExtents();
   /// The window's picture on the screen; null while it has never been shown.
   WindowView* ViewOf(const Window& window) const;
   /// Opens and closes windows and shows in them what the game's data holds.
@@ -83,6 +102,8 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void ReleaseHeld();
   void ProcessEvents(QEventLoop::ProcessEventsFlags flags);
   void WaitForSound(std::chrono::milliseconds longest);
+  int TickLength(const Control& timer) const;
+  void RunIdle();
 
   Machine machine_;
   Surface* surface_ = nullptr;
@@ -92,6 +113,11 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   std::map<const Control*, std::unique_ptr<QTimer>> timers_;
   std::vector<Held> held_;              // what came while the game was at work, in its order
   std::set<const Control*> heldTicks_;  // of timers whose time came meanwhile
+  std::vector<QMessageBox*> boxes_;     // the game's, that are open
+  std::function<void()> idle_;          // to be called when no handler is on the stack
+  int depth_ = 0;                       // events that the game is taking
+  int pace_ = 1;
+  bool paused_ = false;
   bool waitsForSound_ = false;
   bool syncing_ = false;
   bool syncAgain_ = false;

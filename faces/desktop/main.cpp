@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFile>
 #include <QIcon>
 #include <QPixmapCache>
 #include <QTimer>
@@ -10,9 +11,8 @@
 #include <string>
 #include <string_view>
 
-#include "faces/desktop/desktop_platform.h"
+#include "faces/desktop/session.h"
 #include "faces/standard_streams.h"
-#include "game/game.h"
 
 namespace {
 
@@ -42,6 +42,7 @@ constexpr const char* toolkitOptions[] = {"display",
 struct Call {
   std::string platform;  // as somebody asked for it; else the toolkit chooses
   bool namesDisplay = false;
+  std::string file;  // a kept game to go on with
 };
 
 /// Reads the command line. Returns an exit status if it leaves nothing to play.
@@ -49,6 +50,7 @@ std::optional<int> ReadCall(int argc, char** argv, Call& call) {
   QCommandLineParser parser;
   parser.setApplicationDescription("A board game of lots and hotels for one player.");
   parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+  parser.addPositionalArgument("file", "A kept game to go on with.", "[file]");
   const QCommandLineOption help({"h", "help"}, "Displays this help.");
   parser.addOption(help);
   const QCommandLineOption version = parser.addVersionOption();
@@ -70,10 +72,12 @@ std::optional<int> ReadCall(int argc, char** argv, Call& call) {
   }
   if (understood && parser.isSet(version)) return PrintAnswer(program, "zelvo " ZELVO_VERSION "\n");
   if (!understood) return Complain(program, parser.errorText().toStdString(), zelvo::wrongCall);
-  if (!parser.positionalArguments().isEmpty()) {
-    return Complain(program, "unknown argument " + parser.positionalArguments()[0].toStdString(),
+  const QStringList files = parser.positionalArguments();
+  if (files.size() > 1) {
+    return Complain(program, "one kept game only, not also " + files[1].toStdString(),
                     zelvo::wrongCall);
   }
+  if (!files.isEmpty()) call.file = QFile::encodeName(files[0]).toStdString();
 
   const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
   call.platform = parser.isSet("platform") ? parser.value("platform").toStdString()
@@ -152,11 +156,8 @@ int main(int argc, char** argv) {
   QPixmapCache::setCacheLimit(32 * 1024);
 
   zelvo::DesktopPlatform platform(zelvo::ThisMachine(DataFolder()));
-  zelvo::Game game(platform);
-  platform.Attach(game);
-  QTimer::singleShot(0, &platform, [&game, &platform] {
-    platform.Deliver([&game](zelvo::Surface&) { game.Start(); });
-  });
+  zelvo::Session session(platform);
+  QTimer::singleShot(0, &platform, [&session, &call] { session.Start(call.file); });
   // The first window does not wait for it.
   QTimer::singleShot(0, &platform, [&platform] {
     QGuiApplication::setWindowIcon(ProgramIcon(platform.pictures));

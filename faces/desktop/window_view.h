@@ -46,6 +46,8 @@ class WindowView : public QWidget {
   /// 1 is the design size at 96 dpi.
   double Scale() const;
   void SetScale(double scale);
+  /// How the window stands on the screen.
+  Extent extent() const { return extent_; }
   /// True if the window stands above the others until it is left.
   bool IsDialog() const { return window_.design().titleBar != TitleBar::Sizable; }
 

@@ -75,11 +75,7 @@ bool TextFits(ControlWidget& widget) {
   return QRectF(QPointF(), area).contains(widget.Text().bounds);
 }
 
-DesktopGame::DesktopGame() : platform(TestMachine()), game(platform) {
-  platform.Attach(game);
-  game.Start();
-  platform.Sync();
-}
+DesktopGame::DesktopGame() : platform(TestMachine()) { session.Start(); }
 
 DesktopGame::~DesktopGame() { game.End(); }
 

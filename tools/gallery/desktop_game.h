@@ -4,8 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "faces/desktop/desktop_platform.h"
-#include "game/game.h"
+#include "faces/desktop/session.h"
 
 namespace zelvo {
 
@@ -49,7 +48,8 @@ class DesktopGame {
   SilentPlayer* sound = nullptr;
   std::vector<std::string> spoken;
   DesktopPlatform platform;
-  Game game;
+  Session session{platform};
+  Game& game = session.game();
 
  private:
   Machine TestMachine();

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <array>
+#include <string_view>
+
+namespace zelvo {
+
+/// What the player can do with the game as a whole, in every face with the same words and keys.
+enum class Command : unsigned char { Keep, GoOn, TakeBack, DoAgain, SetPace };
+
+struct CommandDesign {
+  Command command;
+  std::string_view name;
+  std::string_view key;
+  int pace = 0;  ///< of `SetPace`: so many times as fast as the game's own waits
+};
+
+constexpr std::array<CommandDesign, 7> commandDesigns = {{
+    {Command::Keep, "Keep this game in a file...", "Ctrl+S"},
+    {Command::GoOn, "Go on with a kept game...", "Ctrl+O"},
+    {Command::TakeBack, "Take back", "Ctrl+Z"},
+    {Command::DoAgain, "Do again", "Ctrl+Shift+Z"},
+    {Command::SetPace, "Waits as they are", "Ctrl+1", 1},
+    {Command::SetPace, "Waits twice as fast", "Ctrl+2", 2},
+    {Command::SetPace, "Waits five times as fast", "Ctrl+5", 5},
+}};
+
+/// The end of the names of kept games.
+constexpr std::string_view keptGameSuffix = "zelvo";
+
+}  // namespace zelvo

@@ -1,0 +1,265 @@
+#include <QContextMenuEvent>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMenu>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <functional>
+#include <vector>
+
+#include "faces/headless/state.h"
+#include "faces/kept_game.h"
+#include "tests/desktop/player.h"
+
+namespace zelvo {
+namespace {
+
+/// A state without the folder of the sounds, which is the machine's and not the game's.
+QJsonObject Comparable(const QByteArray& json) {
+  QJsonObject state = QJsonDocument::fromJson(json).object();
+  QJsonObject variables = state["variables"].toObject();
+  variables.remove("AppPath");
+  state["variables"] = variables;
+  return state;
+}
+
+/// A state without the board's title, which tells what lies under the mouse: a window that comes
+/// back under it changes the title.
+QJsonObject BelowTitle(QJsonObject state) {
+  QJsonObject windows = state["windows"].toObject();
+  QJsonObject board = windows["GFM"].toObject();
+  board.remove("Caption");
+  windows["GFM"] = board;
+  state["windows"] = windows;
+  return state;
+}
+
+/// A list with its runs written out, as a file that grew line by line may have them.
+std::string WrittenOut(const std::string& text) {
+  std::string out;
+  for (const QString& line : QString::fromStdString(text).split('\n')) {
+    const QStringList words = line.split(' ');
+    const bool run = words.first() == "back" || words.first() == "clock";
+    const auto place = words.first() == "back" ? 1 : 2;
+    const int count = run && words.size() > place ? words[place].toInt() : 1;
+    const QString one = run ? words.mid(0, place).join(' ') : line;
+    for (int i = 0; i < count; ++i) out += one.toStdString() + '\n';
+  }
+  return out;
+}
+
+class KeptOnDesktop : public testing::Test, public Player {
+ protected:
+  using Steps = std::vector<std::function<void()>>;
+
+  /// Takes each step when the game is at rest, in whatever dialog that is, and waits for the rest
+  /// after the last one.
+  void Run(Steps steps) {
+    steps_ = std::move(steps);
+    next_ = 0;
+    Poll();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return next_ > steps_.size(); }, 60'000));
+  }
+
+  std::function<void()> Press(Control& control) {
+    return [this, &control] { QTest::mouseClick(&Widget(control), Qt::LeftButton); };
+  }
+  std::function<void()> Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
+    return [this, key, modifiers] { QTest::keyClick(platform.Front(), key, modifiers); };
+  }
+  static std::function<void()> Answer(QMessageBox::StandardButton button) {
+    return [button] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      box->button(button)->click();
+    };
+  }
+
+  // `Untouched`, or the look alone would load a window.
+  QJsonObject State() { return Comparable(QByteArray::fromStdString(StateAsJson(game))); }
+  std::string List() { return TextOf(game, session.journal().list()); }
+  /// Where the scripted program finds the game that is kept in the file.
+  QJsonObject StateInScriptedProgram() const {
+    QProcess program;
+    program.start(ZELVO_PROGRAMS "/zelvo-headless", {"--game", file});
+    program.write("state\n");
+    program.closeWriteChannel();
+    EXPECT_TRUE(program.waitForFinished(60'000));
+    const QByteArray line = program.readAllStandardOutput().split('\n').value(1);
+    return Comparable(QJsonDocument(QJsonDocument::fromJson(line)["state"].toObject()).toJson());
+  }
+  QByteArray InFile() const {
+    QFile read(file);
+    return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
+  }
+  void PutIntoFile(const QByteArray& text) const {
+    QFile written(file);
+    ASSERT_TRUE(written.open(QIODevice::WriteOnly));
+    written.write(text);
+  }
+
+  /// A turn in which the player meets a dialog, a blink that they look around in, and a message.
+  Steps Turn() {
+    return {Press(game.GST.Untouched().CMDSTART),
+            Press(game.GFM.Untouched().CMDHELP),
+            Press(game.ICF.Untouched().OPT1[2]),
+            Press(game.ICF.Untouched().CKBANK),
+            Press(game.ICF.Untouched().cmdexit),
+            [this] {
+              now = {12, 30, 41};
+              Once([this] { return game.GFM.Untouched().LITE[2].Visible; },
+                   [this] {
+                     View(game.GFM).showMinimized();
+                     QTest::mouseClick(&Widget(game.GFM.Untouched().Label1), Qt::LeftButton);
+                   });
+              Press(game.GFM.Untouched().CMDGO)();
+            },
+            [this] { View(game.GFM).showNormal(); },
+            Press(game.GFM.Untouched().Label8),
+            Press(game.BK.Untouched().OPT1[4]),
+            Press(game.BK.Untouched().CMDOK),
+            Press(game.GFM.Untouched().Image1[0]),
+            Press(game.GFM.Untouched().CMDEXIT),
+            Press(game.GST.Untouched().CMDSTART)};
+  }
+
+  QTemporaryDir folder;
+  QString file = folder.filePath("a.zelvo");
+
+ private:
+  void Poll() {
+    QTimer::singleShot(0, &platform, [this] {
+      if (session.IsReplacing() || !session.journal().IsAtRest()) return Poll();
+      if (next_ > steps_.size()) return;
+      const std::size_t step = next_++;
+      if (step == steps_.size()) return;
+      Poll();
+      steps_[step]();
+    });
+  }
+
+  Steps steps_;
+  std::size_t next_ = 0;
+};
+
+TEST_F(KeptOnDesktop, AGameIsInItsFileAndTheScriptedProgramPlaysTheSame) {
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  Steps steps;
+  for (const auto& step : Turn()) {
+    steps.push_back(step);
+    steps.push_back([this] {
+      EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
+      EXPECT_EQ(StateInScriptedProgram(), State());
+    });
+  }
+  Run(steps);
+  EXPECT_TRUE(InFile().contains("resize GFM minimised"));
+  EXPECT_TRUE(InFile().contains("click BK.CMDOK"));
+  EXPECT_GT(InFile().count("tick GFM.Timer1"), 6);
+}
+
+TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  std::vector<QJsonObject> states;
+  Steps steps;
+  for (const auto& step : Turn()) {
+    steps.push_back([this, &states, step] {
+      states.push_back(BelowTitle(State()));
+      step();
+    });
+  }
+  Run(steps);
+  states.push_back(BelowTitle(State()));
+  const auto isStep = [](const QByteArray& line) { return line.startsWith("click "); };
+  const QList<QByteArray> lines = InFile().split('\n');
+  ASSERT_GE(std::count_if(lines.begin(), lines.end(), isStep), 12);
+
+  std::vector<QJsonObject> seen;
+  Steps back;
+  for (int i = 0; i < 30; ++i)
+    back.push_back([this, &seen] {
+      seen.push_back(BelowTitle(State()));
+      if (History::CanTakeBack(session.journal())) Keys(Qt::Key_Z)();
+    });
+  Run(back);
+  EXPECT_EQ(seen.back(), states.front());
+  for (const QJsonObject& state : seen)
+    EXPECT_TRUE(std::count(states.begin(), states.end(), state));
+  EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
+  EXPECT_TRUE(View(game.GST).isVisible());
+  EXPECT_FALSE(View(game.GFM).isVisible());
+
+  Steps again(30, Keys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier));
+  Run(again);
+  EXPECT_EQ(BelowTitle(State()), states.back());
+  EXPECT_EQ(BelowTitle(StateInScriptedProgram()), states.back());
+  // Something else done leaves nothing to be done again.
+  Run({Keys(Qt::Key_Z), Press(game.GST.Untouched().CMDSTART),
+       Press(game.GFM.Untouched().Image1[0])});
+  const QJsonObject other = BelowTitle(State());
+  Run({Keys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier)});
+  EXPECT_EQ(BelowTitle(State()), other);
+}
+
+TEST_F(KeptOnDesktop, AFileIsGoneOnWithInTheMiddleOfABlinkAndItsTornLineIsDropped) {
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  Run(Turn());
+  const QByteArray whole = InFile();
+  const auto middle = whole.indexOf("tick GFM.Timer1\n") + 16;
+  PutIntoFile(whole.left(middle) + "bac");
+  ASSERT_EQ(session.GoOn(file.toStdString()), "");
+  Run({Press(game.GFM.Untouched().Image1[0])});
+  EXPECT_TRUE(InFile().startsWith(whole.left(middle) + "back\n"));
+  EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
+  EXPECT_EQ(StateInScriptedProgram(), State());
+}
+
+TEST_F(KeptOnDesktop, WhatIsNoKeptGameIsRefusedAndStaysAsItIs) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  const QJsonObject before = State();
+  const std::string path = file.toStdString();
+  for (const auto& [text, why] : std::initializer_list<std::pair<QByteArray, std::string>>{
+           {"", "it is cut off in its first line"},
+           {"PNG", "it is no kept game"},
+           {"zelvo-game 9\n", "it was kept by a later version of the game"},
+           {"zelvo-game 1\nback\nclick GFM.CMDGO\n",
+            "its line 3 does not fit the game: click GFM.CMDGO"}}) {
+    PutIntoFile(text);
+    EXPECT_EQ(session.GoOn(path), path + " cannot be gone on with: " + why + ".");
+    EXPECT_EQ(InFile(), text);
+  }
+  EXPECT_EQ(session.GoOn("/no/such"), "/no/such cannot be read: No such file or directory.");
+  EXPECT_EQ(session.Keep("/no/such"), "/no/such cannot be written: No such file or directory.");
+  Run({[] {}});
+  EXPECT_EQ(State(), before);
+}
+
+TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  QContextMenuEvent rightButton(QContextMenuEvent::Mouse, {5, 5}, {5, 5});
+  QApplication::sendEvent(&Widget(game.GFM.Untouched().Image1[5]), &rightButton);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  ASSERT_NE(menu, nullptr);
+  QStringList texts;
+  for (const QAction* action : menu->actions()) texts += action->text();
+  for (const CommandDesign& design : commandDesigns) {
+    const std::string text = std::string(design.name) + "\t" + std::string(design.key);
+    EXPECT_TRUE(texts.contains(QString::fromStdString(text))) << text;
+  }
+  game.GFM.Untouched().Timer1.SetInterval(10);
+  game.GFM.Untouched().Timer1.SetEnabled(true);
+  game.Work = 0;
+  for (int i = 0; i < 20; ++i) QCoreApplication::processEvents();
+  EXPECT_EQ(game.Work, 0);
+  menu->close();
+  EXPECT_TRUE(QTest::qWaitFor([this] { return game.Work > 0; }));
+  Run({Keys(Qt::Key_5)});
+  EXPECT_EQ(platform.pace(), 5);
+}
+
+}  // namespace
+}  // namespace zelvo

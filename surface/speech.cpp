@@ -3,7 +3,9 @@
 namespace zelvo {
 namespace {
 
-constexpr auto npos = std::string_view::npos;
+bool EndsInPause(const std::string& text) {
+  return std::string_view(".,;:!?").find(text.back()) != std::string_view::npos;
+}
 
 /// A text on one line, words one blank apart. Where a line ends a voice makes a pause.
 std::string OneLine(std::string_view text) {
@@ -16,8 +18,7 @@ std::string OneLine(std::string_view text) {
       pause = pause || c == '\n';
       continue;
     }
-    const bool inWords = !line.empty() && std::string_view(".,;:!?").find(line.back()) == npos;
-    if (gap && !line.empty()) line += pause && inWords ? ", " : " ";
+    if (gap && !line.empty()) line += pause && !EndsInPause(line) ? ", " : " ";
     line += c;
     gap = pause = false;
   }
@@ -27,7 +28,7 @@ std::string OneLine(std::string_view text) {
 /// Adds a sentence to a text.
 void Join(std::string& text, const std::string& sentence) {
   if (sentence.empty()) return;
-  if (!text.empty()) text += text.back() == '.' || text.back() == '!' ? " " : ". ";
+  if (!text.empty()) text += EndsInPause(text) ? " " : ". ";
   text += sentence;
 }
 

@@ -22,6 +22,8 @@ struct Order {
 
 /// A server that answers only after that time is not to play what belonged to another moment.
 constexpr std::chrono::seconds latestStart{2};
+/// How much of a sound the server is to hold: the more, the later it says that the sound is over.
+constexpr std::chrono::microseconds writtenAhead = std::chrono::milliseconds{250};
 /// The end of the program waits no longer for a thread that does not come back from the system.
 constexpr std::chrono::seconds longestFarewell{1};
 
@@ -134,7 +136,11 @@ class Voice {
         stream_,
         [](pa_stream*, std::size_t room, void* voice) { static_cast<Voice*>(voice)->Write(room); },
         this);
-    pa_stream_connect_playback(stream_, nullptr, nullptr, PA_STREAM_NOFLAGS, nullptr, nullptr);
+    constexpr auto byServer = static_cast<std::uint32_t>(-1);
+    const auto ahead = static_cast<std::uint32_t>(pa_usec_to_bytes(writtenAhead.count(), &format));
+    const pa_buffer_attr buffer{byServer, ahead, byServer, byServer, byServer};
+    pa_stream_connect_playback(stream_, nullptr, &buffer, PA_STREAM_ADJUST_LATENCY, nullptr,
+                               nullptr);
   }
 
   void StreamChanged() {

@@ -134,6 +134,23 @@ TEST_F(OnScreen, WhatSpeaksOfALotStandsBesideIt) {
   EXPECT_GE(seen.size(), 5U);
 }
 
+TEST_F(OnScreen, NoLineOfAMessageHoldsALonelyMark) {
+  const QFont font = ScreenFont(13, false);
+  for (const char* message :
+       {"You Don't have enough Money !",
+        "You don't have enough money ! Do you wish to borrow the money from the bank ?"}) {
+    const QString text(message);
+    for (double width = 120; width < 600; width += 7) {
+      const QString lines = InEvenLines(text, font, width);
+      EXPECT_EQ(lines.simplified(), text);
+      for (const QString& line : lines.split('\n')) {
+        EXPECT_GT(line.trimmed().size(), 3) << lines.toStdString() << ' ' << width;
+        EXPECT_LE(QFontMetricsF(font).horizontalAdvance(line.trimmed()), width);
+      }
+    }
+  }
+}
+
 TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
   StartGame();
   const auto put = [this](Qt::WindowState state) {

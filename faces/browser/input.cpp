@@ -1,14 +1,15 @@
 #include "faces/browser/input.h"
 
+#include <array>
+
 #include "faces/browser/host.h"
 
 namespace zelvo {
 
 bool TakeInput(std::string& text) {
-  constexpr std::size_t room = 65'536 + 1;
-  text.resize(room);
-  const int length = host::ZelvoTakeInput(text.data(), room);
-  text.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+  static std::array<char, 65'536 + 1> room;
+  const int length = host::ZelvoTakeInput(room.data(), room.size());
+  text.assign(room.data(), length < 0 ? 0 : static_cast<std::size_t>(length));
   return length >= 0;
 }
 

@@ -24,6 +24,6 @@ function holds(element) {
   const width = element.clientWidth - parseFloat(style.paddingLeft) - parseFloat(style.paddingRight);
   const height =
     element.clientHeight - parseFloat(style.paddingTop) - parseFloat(style.paddingBottom);
-  const slack = 0.5;
+  const slack = 1;  // both are told in whole pixels
   return text.offsetWidth <= width + slack && text.offsetHeight <= height + slack;
 }

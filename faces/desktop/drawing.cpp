@@ -152,7 +152,8 @@ QString InEvenLines(const QString& text, const QFont& font, double width) {
   QStringList all;
   for (const QString& paragraph : text.split('\n')) {
     QStringList lines = LinesOf(paragraph, font, width);
-    for (double narrower = width - step; narrower > 0; narrower -= step) {
+    double narrower = width;
+    while ((narrower -= step) > 0) {
       const QStringList next = LinesOf(paragraph, font, narrower);
       if (next.size() > lines.size()) break;
       lines = next;

@@ -180,15 +180,17 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
 
   std::vector<QJsonObject> seen;
   Steps back;
-  for (int i = 0; i < 30; ++i)
+  for (int i = 0; i < 30; ++i) {
     back.push_back([this, &seen] {
       seen.push_back(BelowTitle(State()));
       if (History::CanTakeBack(session.journal())) Keys(Qt::Key_Z)();
     });
+  }
   Run(back);
   EXPECT_EQ(seen.back(), states.front());
-  for (const QJsonObject& state : seen)
+  for (const QJsonObject& state : seen) {
     EXPECT_TRUE(std::count(states.begin(), states.end(), state));
+  }
   EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
   EXPECT_TRUE(View(game.GST).isVisible());
   EXPECT_FALSE(View(game.GFM).isVisible());

@@ -243,12 +243,12 @@ bool Session::eventFilter(QObject* object, QEvent* event) {
   }
   if (event->type() != QEvent::KeyPress) return false;
   const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
-  for (const CommandDesign& design : commandDesigns) {
-    if (pressed != QKeySequence(ToQString(design.key))) continue;
-    Do(design);
-    return true;
-  }
-  return false;
+  const auto command = std::find_if(
+      commandDesigns.begin(), commandDesigns.end(),
+      [&](const CommandDesign& design) { return pressed == QKeySequence(ToQString(design.key)); });
+  if (command == commandDesigns.end()) return false;
+  Do(*command);
+  return true;
 }
 
 }  // namespace zelvo

@@ -140,7 +140,7 @@ TEST_F(OnScreen, NoLineOfAMessageHoldsALonelyMark) {
        {"You Don't have enough Money !",
         "You don't have enough money ! Do you wish to borrow the money from the bank ?"}) {
     const QString text(message);
-    for (double width = 120; width < 600; width += 7) {
+    for (int width = 120; width < 600; width += 7) {
       const QString lines = InEvenLines(text, font, width);
       EXPECT_EQ(lines.simplified(), text);
       for (const QString& line : lines.split('\n')) {

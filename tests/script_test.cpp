@@ -41,8 +41,8 @@ click GFM.CMDGO | hover GFM | close GST | answer ok | answer maybe | click GST.C
     for (const std::string& line : Pieces(wrong)) {
       const auto lines = Play(script + "state\n" + line + "\nstate\n");
       ASSERT_GE(lines.size(), 3U);
-      const Json before = lines[lines.size() - 3];
-      const Json answer = lines[lines.size() - 2];
+      const Json& before = lines[lines.size() - 3];
+      const Json& answer = lines[lines.size() - 2];
       EXPECT_TRUE(before.contains("state") && lines.back() == before) << line;
       EXPECT_NE(answer["error"].text(), "") << line;
       EXPECT_EQ(answer.without("error"), before.without("state"))

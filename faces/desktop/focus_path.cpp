@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 #include "faces/desktop/control_widget.h"
 #include "surface/speech.h"
 
 namespace zelvo {
 
-FocusPath::FocusPath(const std::vector<ControlWidget*>& widgets) : order_(widgets) {
+FocusPath::FocusPath(std::vector<ControlWidget*> widgets) : order_(std::move(widgets)) {
   std::stable_sort(order_.begin(), order_.end(), [](ControlWidget* one, ControlWidget* other) {
     return one->control().design().tabLevel < other->control().design().tabLevel;
   });

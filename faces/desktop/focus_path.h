@@ -15,7 +15,7 @@ class ControlWidget;
 /// when the control that has it goes, it moves to what the player has in hand or to the first stop.
 class FocusPath {
  public:
-  explicit FocusPath(const std::vector<ControlWidget*>& widgets);
+  explicit FocusPath(std::vector<ControlWidget*> widgets);
 
   /// The window comes up: the focus starts anew at the first stop.
   void Start();

@@ -87,7 +87,7 @@ class RecordedPlayer : public VirtualPlatform {
 void RecordedBuildingTurns(benchmark::State& state) {
   RecordedPlayer player;
   StartGame(player.game());
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     BuyAndBuild(player.game());
     EndTurn(player.game());
   }

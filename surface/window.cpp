@@ -4,6 +4,8 @@
 
 namespace zelvo {
 
+// A design is copied once a window, at the program's start.
+// NOLINTNEXTLINE(modernize-pass-by-value)
 Window::Window(Surface& surface, const WindowDesign& design) : surface_(surface), design_(design) {}
 
 bool Window::HasCloseBox() const {

@@ -61,7 +61,7 @@ std::string AwkwardText(std::mt19937& random) {
 TEST(JsonText, IsWrittenAndReadAsTheLibraryDoesToTheLetter) {
   std::mt19937 random(1);
   int read = 0;
-  for (int i = 0; i < 200'000; ++i) {
+  for (int i = 0; i < 40'000; ++i) {
     const std::string text = AwkwardText(random);
     const std::string quoted = Quoted(text);
     ASSERT_EQ(quoted, Json(text).dump(-1, ' ', false, Json::error_handler_t::replace));
@@ -74,7 +74,7 @@ TEST(JsonText, IsWrittenAndReadAsTheLibraryDoesToTheLetter) {
       read += taken ? 1 : 0;
     }
   }
-  EXPECT_GT(read, 200'000);
+  EXPECT_GT(read, 40'000);
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <map>
 #include <sstream>
 
 namespace zelvo::test {
@@ -15,22 +16,14 @@ namespace {
 
 std::vector<Json> Play(const std::string& script) { return Scripted(script).Lines(); }
 
-std::vector<Json> Values(const std::string& script) {
-  std::vector<Json> values;
+std::string Told(const std::string& script) {
+  std::string told;
   // At noon to the second every event is a fire, and there is nothing yet to burn.
   for (const Json& line : Play("click GST.CMDSTART\n" + script)) {
     EXPECT_FALSE(line.contains("error")) << line.dump();
-    if (line.contains("value")) values.push_back(line["value"]);
+    if (line.contains("value")) told += (told.empty() ? "" : " | ") + line["value"].text();
   }
-  return values;
-}
-
-std::vector<std::string> Texts(const std::string& script) {
-  std::vector<std::string> texts;
-  for (const Json& value : Values(script)) {
-    texts.push_back(value.text());
-  }
-  return texts;
+  return told;
 }
 
 std::string Times(int count, const std::string& command) {
@@ -46,6 +39,25 @@ std::string Get(const std::string& names) {
   std::string script;
   for (std::string name; words >> name;) script.append("get ").append(name).append("\n");
   return script;
+}
+
+std::string Set(const std::string& name, const std::string& value) {
+  return "set " + name + " " + value + "\n";
+}
+
+std::string Cash(const std::string& player, const std::string& computer) {
+  return Set("GFM.PCredit.Caption", '"' + player + '"') +
+         Set("GFM.CCredit.Caption", '"' + computer + '"');
+}
+
+std::string Lot(int lot, const std::string& tag, const std::string& value) {
+  static const std::map<std::string, std::string> pictures = {
+      {"U", "ICF.LUND"},  {"O", "ICF.LOPEN"},  {"D", "ICF.LDIRT"},
+      {"G", "ICF.GOLF"},  {"K", "ICF.PARK"},   {"PU", "ICF.PLAYER"},
+      {"CU", "ICF.COMP"}, {"PBH", "GFM.BEST"}, {"XC", "ICF.CITY"}};
+  const std::string index = "(" + std::to_string(lot) + ")";
+  return Set("GFM.Image1" + index + ".Tag", '"' + tag + '"') +
+         Set("GFM.Image1" + index + ".Picture", pictures.at(tag)) + Set("LotValue" + index, value);
 }
 
 std::vector<std::string> Pieces(const std::string& table, char separator) {

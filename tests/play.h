@@ -13,21 +13,24 @@ namespace zelvo::test {
 std::vector<Json> Play(const std::string& script);
 
 /// Starts a game at a quiet second of the clock, with every opening event passed over lots that it
-/// leaves as they were, then plays the script. Gives the values of its `get` commands, in order; a
-/// command with an error fails the test.
-std::vector<Json> Values(const std::string& script);
-
-/// The values as strings, for tables: "$1,000" stays as it is, a number as it is printed.
-std::vector<std::string> Texts(const std::string& script);
+/// leaves as they were, then plays the script. Gives the values of its `get` commands in one line,
+/// as in "$1,000 | CU | -1"; a command with an error fails the test.
+std::string Told(const std::string& script);
 
 /// The same command a number of times.
 std::string Times(int count, const std::string& command);
 
-/// The last line of a script that is played in a new game, as those of `Values` are.
+/// The last line of a script that is played in a new game, as that of `Told` is.
 Json Last(const std::string& script);
 
 /// `get` commands for the names of a text, with blanks between them.
 std::string Get(const std::string& names);
+
+std::string Set(const std::string& name, const std::string& value);
+/// Commands that put the cash of the player and of the computer.
+std::string Cash(const std::string& player, const std::string& computer);
+/// Commands that put a lot's tag with its picture, and its value.
+std::string Lot(int lot, const std::string& tag, const std::string& value);
 
 /// The pieces of a table between its separators, without blanks and line ends around them.
 std::vector<std::string> Pieces(const std::string& table, char separator = '|');

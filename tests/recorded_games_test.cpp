@@ -1,19 +1,27 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <map>
+#include <functional>
+#include <regex>
+#include <set>
 
 #include "faces/headless/variables.h"
+#include "presentation/cues.h"
 #include "tests/play.h"
 
 namespace zelvo::test {
 namespace {
 
-/// Everything that a game holds, by name.
-using Snapshot = std::map<std::string, std::string>;
+/// One thing that a game holds: its name, and what it holds, an empty text if it is not there.
+struct Held {
+  std::string name;
+  std::function<std::string(Game&)> value;
+};
 
 std::string Describe(const Control& control) {
+  if (!control.window().IsLoaded()) return "";
   std::string text = '"' + control.Caption + control.Text + '"';
   if (!control.Tag.empty()) text += " tag " + control.Tag;
   if (control.Picture != PictureId::None) text.append(" ").append(PictureOwner(control.Picture));
@@ -24,82 +32,133 @@ std::string Describe(const Control& control) {
   return text;
 }
 
-Snapshot Take(Game& game) {
-  Snapshot all = {{"pointer", std::to_string(static_cast<int>(game.pointer()))}};
+std::string Describe(const Window& window) {
+  if (!window.IsLoaded()) return "not loaded";
+  return window.Caption + (window.IsShown() ? " shown" : " hidden");
+}
+
+std::vector<Held> Everything(Game& game) {
+  std::vector<Held> all = {
+      {"pointer", [](Game& g) { return std::to_string(static_cast<int>(g.pointer())); }}};
   for (const SharedVariable& variable : SharedVariables()) {
     for (int index = variable.first; index <= std::max(variable.first, variable.last); ++index) {
       const int at = variable.IsArray() ? index : Control::noIndex;
       const std::string suffix = variable.IsArray() ? "(" + std::to_string(index) + ")" : "";
-      all[std::string(variable.name) + suffix] = ReadVariable(game, {&variable, at});
+      all.push_back({std::string(variable.name) + suffix, [&variable, at](Game& g) {
+                       return ReadVariable(g, {&variable, at});
+                     }});
     }
   }
-  for (Window* window : game.Windows()) {
+  for (const Window* window : game.Windows()) {
     const std::string name(window->name());
-    all[name] = window->IsLoaded() ? window->Caption + (window->IsShown() ? " shown" : " hidden")
-                                   : "not loaded";
+    all.push_back({name, [window](Game&) { return Describe(*window); }});
     for (const Control* control : window->controls()) {
-      if (window->IsLoaded()) all[name + "." + control->FullName()] = Describe(*control);
+      all.push_back(
+          {name + "." + control->FullName(), [control](Game&) { return Describe(*control); }});
     }
   }
+  std::ranges::sort(all, {}, &Held::name);
   return all;
 }
 
-/// Plays the commands of a recording, and records what each of them brings: the line that is
-/// printed, and all that is not as it was before.
+/// Plays commands, and records what each of them brings: the line that is printed, and all that is
+/// not as it was before; behind "..." what a wait on the way shows. What a command sets is no news.
 class Recorder : public Scripted {
  public:
-  explicit Recorder(std::istream& recording) {
-    for (std::string line; std::getline(recording, line);) {
-      if (line.starts_with("> ")) script_.push_back(line.substr(2));
-    }
-  }
+  /// Records nothing of the first commands.
+  Recorder(std::vector<std::string> script, std::size_t unrecorded)
+      : script_(std::move(script)), unrecorded_(unrecorded), recording_(unrecorded == 0) {}
   std::string recorded;
 
  private:
   bool NextCommand(std::string& command) override {
-    Snapshot now = Take(game());
-    for (const auto& [name, value] : now) {
-      const auto before = last_.find(name);
-      if (before != last_.end() && before->second == value) continue;
-      std::string line = name + " " + value;
-      std::erase(line, '\r');
-      std::replace(line.begin(), line.end(), '\n', '/');
-      recorded += line + "\n";
-    }
-    last_ = std::move(now);
+    NoteChanges("");
     if (next_ == script_.size()) return false;
-    command = script_[next_++];
-    recorded += "> " + command + "\n";
+    command = script_[next_];
+    recording_ = next_++ >= unrecorded_;
+    if (recording_) recorded += "> " + command + "\n";
+    if (command.starts_with("set ") || command.starts_with("clock ")) recording_ = false;
     return true;
   }
-  void Print(const std::string& line) override { recorded += line + "\n"; }
+  void Print(const std::string& line) override {
+    if (recording_ || line.find("\"error\"") != std::string::npos) recorded += line + "\n";
+  }
+  void YieldUntilEvent() override {
+    NoteChanges("...\n");
+    Scripted::YieldUntilEvent();
+  }
+  void NoteChanges(const std::string& heading) {
+    std::string changes;
+    for (std::size_t i = 0; i < held_.size(); ++i) {
+      std::string value = held_[i].value(game());
+      if (value == last_[i]) continue;
+      last_[i] = value;
+      std::erase(value, '\r');
+      std::ranges::replace(value, '\n', '/');
+      if (!value.empty()) changes += held_[i].name + " " + value + "\n";
+    }
+    if (recording_ && !changes.empty()) recorded += heading + changes;
+  }
 
   std::vector<std::string> script_;
+  std::size_t unrecorded_;
+  bool recording_;
   std::size_t next_ = 0;
-  Snapshot last_;
+  std::vector<Held> held_ = Everything(game());
+  std::vector<std::string> last_ = std::vector<std::string>(held_.size());
 };
+
+/// Plays the commands of a recording anew. It holds a game from the program's start on, or parts
+/// behind titles, each from the first rest of a new game on.
+std::string RecordAnew(std::istream& recording) {
+  struct Part {
+    std::string title;
+    std::vector<std::string> script;
+  };
+  std::vector<Part> parts(1);
+  for (std::string line; std::getline(recording, line);) {
+    if (line.starts_with("== ")) parts.push_back({line + "\n", {"click GST.CMDSTART"}});
+    if (line.starts_with("> ")) parts.back().script.push_back(line.substr(2));
+  }
+  std::string recorded;
+  for (const auto& [title, script] : parts) {
+    if (script.empty()) continue;
+    Recorder game(script, title.empty() ? 0 : 1);
+    game.Run();
+    recorded += title + game.recorded;
+  }
+  return recorded;
+}
 
 // A rule that is changed on purpose changes recordings: look at the difference to the file that the
 // failing test leaves, and put that in the place of the recording. A new recording begins as
-// commands alone, each behind "> ".
+// commands alone, each behind "> ", with a title behind "== " ahead of each part.
 TEST(RecordedGames, GoAsTheyWent) {
+  std::set<std::string> heard;
   for (const auto& file : std::filesystem::directory_iterator(ZELVO_SOURCE_DIR "/tests/games")) {
     const std::string name = file.path().filename();
     std::ifstream stream(file.path());
     std::stringstream expected;
     expected << stream.rdbuf();
-    Recorder game(expected);
-    game.PlayScript();
-    if (game.recorded == expected.str()) continue;
+    const std::string recorded = RecordAnew(expected);
+    static const std::regex cue(R"(\{"file":[^}]*\})");
+    heard.insert(std::sregex_token_iterator(recorded.begin(), recorded.end(), cue), {});
+    if (recorded == expected.str()) continue;
     const std::string left = ZELVO_PROGRAMS "/" + name;
-    std::ofstream(left) << game.recorded;
-    std::istringstream was(expected.str()), is(game.recorded);
+    std::ofstream(left) << recorded;
+    std::istringstream was(expected.str()), is(recorded);
     std::string command, line, other;
     while (std::getline(was, line) && std::getline(is, other) && line == other) {
-      if (line.starts_with("> ")) command = line;
+      if (line.starts_with("> ") || line.starts_with("== ")) command = line;
     }
     ADD_FAILURE() << name << ", after " << command << "\nrecorded: " << line
                   << "\nnow:      " << other << "\nall of it: " << left;
+  }
+  for (int row = 0; row < static_cast<int>(Cue::Count); ++row) {
+    const Cue known = static_cast<Cue>(row);
+    const std::string waits = CueWaits(known) ? "true" : "false";
+    EXPECT_TRUE(heard.contains(R"({"file":")" + CueFile(known) + R"(","waits":)" + waits + "}"))
+        << CueFile(known);
   }
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "tests/position.h"
+#include "tests/play.h"
 
 namespace zelvo::test {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "faces/headless/auto_player.h"
 #include "surface/speech.h"
-#include "tests/position.h"
+#include "tests/play.h"
 
 namespace zelvo::test {
 namespace {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <regex>
 #include <set>
@@ -110,13 +109,13 @@ class Recorder : public Scripted {
 
 /// Plays the commands of a recording anew. It holds a game from the program's start on, or parts
 /// behind titles, each from the first rest of a new game on.
-std::string RecordAnew(std::istream& recording) {
+std::string RecordAnew(const std::string& recording) {
   struct Part {
     std::string title;
     std::vector<std::string> script;
   };
   std::vector<Part> parts(1);
-  for (std::string line; std::getline(recording, line);) {
+  for (const std::string& line : Pieces(recording, '\n')) {
     if (line.starts_with("== ")) parts.push_back({line + "\n", {"click GST.CMDSTART"}});
     if (line.starts_with("> ")) parts.back().script.push_back(line.substr(2));
   }
@@ -130,29 +129,18 @@ std::string RecordAnew(std::istream& recording) {
   return recorded;
 }
 
-// A rule that is changed on purpose changes recordings: look at the difference to the file that the
-// failing test leaves, and put that in the place of the recording. A new recording begins as
-// commands alone, each behind "> ", with a title behind "== " ahead of each part.
+// A new recording begins as commands alone, each behind "> ", with a title behind "== " ahead of
+// each part.
 TEST(RecordedGames, GoAsTheyWent) {
   std::set<std::string> heard;
-  for (const auto& file : std::filesystem::directory_iterator(ZELVO_SOURCE_DIR "/tests/games")) {
-    const std::string name = file.path().filename();
-    std::ifstream stream(file.path());
-    std::stringstream expected;
-    expected << stream.rdbuf();
-    const std::string recorded = RecordAnew(expected);
+  for (const auto& entry : std::filesystem::directory_iterator(ZELVO_SOURCE_DIR "/tests/games")) {
+    const std::string file = "games/" + entry.path().filename().string();
+    const std::string recorded = RecordAnew(ReadTestFile(file));
     static const std::regex cue(R"(\{"file":[^}]*\})");
     heard.insert(std::sregex_token_iterator(recorded.begin(), recorded.end(), cue), {});
-    if (recorded == expected.str()) continue;
-    const std::string left = ZELVO_PROGRAMS "/" + name;
-    std::ofstream(left) << recorded;
-    std::istringstream was(expected.str()), is(recorded);
-    std::string command, line, other;
-    while (std::getline(was, line) && std::getline(is, other) && line == other) {
-      if (line.starts_with("> ") || line.starts_with("== ")) command = line;
-    }
-    ADD_FAILURE() << name << ", after " << command << "\nrecorded: " << line
-                  << "\nnow:      " << other << "\nall of it: " << left;
+    ExpectAsRecorded(file, recorded, [](const std::string& line) {
+      return line.starts_with("> ") || line.starts_with("== ");
+    });
   }
   for (int row = 0; row < static_cast<int>(Cue::Count); ++row) {
     const Cue known = static_cast<Cue>(row);

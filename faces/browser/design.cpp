@@ -18,6 +18,8 @@ constexpr std::array<std::string_view, 5> borderNames = {"none", "line", "sunken
                                                          "road"};
 constexpr std::array<std::string_view, 3> speechNames = {"", "news", "standing"};
 constexpr std::array<std::string_view, 4> keyNames = {"", "Escape", "F1", "Ctrl+Enter"};
+constexpr std::array<std::string_view, 5> commandNames = {"keep", "goOn", "takeBack", "doAgain",
+                                                          "setPace"};
 
 template <class E, std::size_t n>
 std::string Name(const std::array<std::string_view, n>& names, E value) {
@@ -51,8 +53,8 @@ class Object {
 template <class Items, class Function>
 std::string Array(const Items& items, Function asJson) {
   std::string json;
-  for (const auto& item : items) json.append(json.empty() ? "[" : ",").append(asJson(item));
-  return json + ']';
+  for (const auto& item : items) json.append(json.empty() ? "" : ",").append(asJson(item));
+  return '[' + json + ']';
 }
 
 std::string AsJson(const Box& box) {
@@ -111,6 +113,15 @@ std::string AsJson(const Window& window) {
       .Text();
 }
 
+std::string AsJson(const CommandDesign& design) {
+  return Object()
+      .Add("does", Name(commandNames, design.command))
+      .Add("name", Quoted(design.name))
+      .Add("key", Quoted(design.key))
+      .Add("pace", Number(design.pace))
+      .Text();
+}
+
 /// The files of the cues, each once, in the order of the program.
 std::string CuesAsJson() {
   std::vector<std::string> files;
@@ -124,7 +135,8 @@ std::string CuesAsJson() {
 }  // namespace
 
 std::string DesignAsJson(const std::vector<const Window*>& windows,
-                         const std::vector<const Control*>& controls) {
+                         const std::vector<const Control*>& controls,
+                         std::span<const CommandDesign> commands) {
   const auto windowJson = [](const Window* window) { return AsJson(*window); };
   const auto controlJson = [&windows](const Control* control) {
     const auto window = std::find(windows.begin(), windows.end(), &control->window());
@@ -134,6 +146,7 @@ std::string DesignAsJson(const std::vector<const Window*>& windows,
       .Add("windows", Array(windows, windowJson))
       .Add("controls", Array(controls, controlJson))
       .Add("cues", CuesAsJson())
+      .Add("commands", Array(commands, [](const CommandDesign& each) { return AsJson(each); }))
       .Text();
 }
 

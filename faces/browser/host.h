@@ -27,6 +27,15 @@ ZELVO_HOST("design") void ZelvoDesign(const char* json, std::size_t length);
 ZELVO_HOST("show") void ZelvoShow(const char* json, std::size_t length);
 /// Takes a line of scripted play.
 ZELVO_HOST("print") void ZelvoPrint(const char* line, std::size_t length);
+/// Puts more of the game's list into the browser's storage, or, with `anew`, a list in the place of
+/// what is there.
+ZELVO_HOST("store") void ZelvoStore(const char* lines, std::size_t length, int anew);
+/// Gives the player a file with a kept game.
+ZELVO_HOST("keep") void ZelvoKeep(const char* text, std::size_t length);
+/// The length of the kept game that is to be gone on with, 0 if there is none.
+ZELVO_HOST("keptLength") std::size_t ZelvoKeptLength();
+/// Takes its text, for which there must be room.
+ZELVO_HOST("takeKept") void ZelvoTakeKept(char* text);
 /// Milliseconds of a clock that only runs on.
 ZELVO_HOST("now") double ZelvoNow();
 /// The second of the local day.

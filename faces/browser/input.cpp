@@ -13,4 +13,10 @@ bool TakeInput(std::string& text) {
   return length >= 0;
 }
 
+std::string TakeKeptGame() {
+  std::string text(host::ZelvoKeptLength(), '\0');
+  if (!text.empty()) host::ZelvoTakeKept(text.data());
+  return text;
+}
+
 }  // namespace zelvo

@@ -8,4 +8,7 @@ namespace zelvo {
 /// for scripted play is cut short, but stays too long.
 bool TakeInput(std::string& text);
 
+/// Takes the kept game that the page has ready; empty if there is none.
+std::string TakeKeptGame();
+
 }  // namespace zelvo

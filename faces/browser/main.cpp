@@ -1,7 +1,7 @@
 #include <cstdlib>
 
 #include "faces/browser/page_game.h"
-#include "faces/browser/page_platform.h"
+#include "faces/browser/page_session.h"
 
 // The library's own ways of giving up print what went wrong, and bring along all of printing for
 // that. The page says its one sentence when the program traps.
@@ -22,6 +22,6 @@ extern "C" [[clang::export_name("play")]] void Play(int virtualTime) {
   if (virtualTime != 0) {
     zelvo::PageGame().Run();
   } else {
-    zelvo::PagePlatform().Run();
+    zelvo::PageSession().Run();
   }
 }

@@ -37,12 +37,12 @@ Page::Page(Surface& surface) : surface_(surface) {
   }
 }
 
-void Page::Build() {
+void Page::Build(std::span<const CommandDesign> commands) {
   std::vector<const Control*> controls;
   for (const Drawn& drawn : drawn_) controls.push_back(drawn.control);
   std::vector<const Window*> windows;
   for (const Frame& frame : frames_) windows.push_back(frame.window);
-  const std::string json = DesignAsJson(windows, controls);
+  const std::string json = DesignAsJson(windows, controls, commands);
   host::ZelvoDesign(json.data(), json.size());
 }
 
@@ -58,6 +58,22 @@ void Page::Sync() {
 void Page::SyncWaiting(std::string_view waiting) {
   if (waiting_ != waiting) Tell("waiting", Quoted(waiting_ = waiting));
   Sync();
+}
+
+void Page::SyncCommands(bool canTakeBack, bool canDoAgain) {
+  const std::string can = '[' + Bool(canTakeBack) + ',' + Bool(canDoAgain) + ']';
+  if (can_ != can) Tell("can", can_ = can);
+}
+
+bool Page::Answer(std::string_view question) {
+  const bool news = question == "say news";
+  if (!news && question != "say standing") return false;
+  std::string said;
+  if (!news) said = SpokenStanding(surface_);
+  if (news && !surface_.Stack().empty()) said = SpokenNews(*surface_.Stack().back());
+  Tell("said", Quoted(said));
+  Sync();
+  return true;
 }
 
 /// The open windows as they stand, the lowest first, and all titles that are new.
@@ -93,6 +109,8 @@ void Page::SyncControls() {
   }
   if (!controls.empty()) Tell("controls", '[' + controls + ']');
 }
+
+void Page::Warn(std::string_view text) { Tell("notice", Quoted(text)); }
 
 void Page::OpenMessage(std::string_view text, MessageStyle style, std::string_view title) {
   std::string json = "{\"text\":" + Quoted(text);

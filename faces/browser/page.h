@@ -1,9 +1,11 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "faces/commands.h"
 #include "faces/shown.h"
 #include "surface/surface.h"
 
@@ -15,12 +17,22 @@ class Page {
  public:
   explicit Page(Surface& surface);
 
-  /// Tells the page how the windows and their controls are made.
-  void Build();
+  /// Tells the page how the windows and their controls are made, and what the player can do with
+  /// the game as a whole.
+  void Build(std::span<const CommandDesign> commands = {});
   /// Tells the page what has changed since.
   void Sync();
   /// The same, and what takes input, now that the game waits for the player; empty once it runs on.
   void SyncWaiting(std::string_view waiting);
+
+  /// Tells the page which of those can be done now.
+  void SyncCommands(bool canTakeBack, bool canDoAgain);
+
+  /// Answers what the page asks of nobody but the game as it stands: "say news" and "say standing"
+  /// have those hear it who ask for it. False if it is no such question.
+  bool Answer(std::string_view question);
+  /// Tells the player something; the game stands still until he has read it.
+  void Warn(std::string_view text);
 
   void OpenMessage(std::string_view text, MessageStyle style, std::string_view title);
   void CloseMessage();
@@ -34,11 +46,11 @@ class Page {
 
  private:
   struct Drawn {
-    const Control* control;
+    const Control* control = nullptr;
     Shown shown;
   };
   struct Frame {
-    const Window* window;
+    const Window* window = nullptr;
     std::string title;
   };
 
@@ -55,6 +67,7 @@ class Page {
   std::vector<Window*> stack_;         // of open windows, as last told
   std::vector<std::string> messages_;  // open ones as JSON, innermost last
   std::string waiting_;
+  std::string can_;  // which commands, as last told
   const Control* inHand_ = nullptr;
   std::string changes_;  // members of a JSON object that the page has still to be told
 };

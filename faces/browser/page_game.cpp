@@ -19,7 +19,9 @@ Answer PageGame::MessageBox(const std::string& text, MessageStyle style, const s
 
 bool PageGame::NextCommand(std::string& command) {
   page_.SyncWaiting(Waiting());
-  while (!TakeInput(command)) host::ZelvoWait(-1);
+  do {
+    while (!TakeInput(command)) host::ZelvoWait(-1);
+  } while (page_.Answer(command));
   page_.SyncWaiting("");
   return true;
 }

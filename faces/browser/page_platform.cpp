@@ -18,18 +18,19 @@ constexpr std::int64_t late = 50;
 
 }  // namespace
 
-void PagePlatform::Run() {
-  page_.Build();
+void PagePlatform::Attach(Surface& surface) {
+  surface_ = &surface;
+  timers_ = {};
   passedUntil_ = host::ZelvoNow();
-  game_.Start();
-  while (!game_.HasEnded()) WaitForEvent(Waiting());
+  if (!page_) page_.emplace(surface);
+  page_->EmptyHand();
 }
 
 // Events.
 
 void PagePlatform::Yield() {
   if (host::ZelvoNow() - breathed_ >= breath) {
-    page_.Sync();
+    page_->Sync();
     host::ZelvoWait(0);
     breathed_ = host::ZelvoNow();
   }
@@ -38,33 +39,33 @@ void PagePlatform::Yield() {
 
 void PagePlatform::YieldUntilEvent() {
   // The game is showing something: the player has nothing in hand meanwhile.
-  page_.EmptyHand();
+  page_->EmptyHand();
   WaitForEvent("");
 }
 
 void PagePlatform::RunModal(Window& window) {
-  while (window.IsShown() && !game_.HasEnded()) WaitForEvent(Waiting());
+  while (window.IsShown() && !surface_->HasEnded()) WaitForEvent(Waiting());
 }
 
 Answer PagePlatform::MessageBox(const std::string& text, MessageStyle style,
                                 const std::string& title) {
-  page_.OpenMessage(text, style, title);
+  page_->OpenMessage(text, style, title);
   answers_.emplace_back();
-  while (!answers_.back() && !game_.HasEnded()) WaitForEvent("message box");
+  while (!answers_.back() && !surface_->HasEnded()) WaitForEvent("message box");
   const Answer answer = answers_.back().value_or(Answer::No);
   answers_.pop_back();
-  page_.CloseMessage();
+  page_->CloseMessage();
   return answer;
 }
 
-/// Runs what is pending, and if that is nothing, sleeps until something is.
 void PagePlatform::WaitForEvent(std::string_view waiting) {
   if (RunPending()) return;
-  page_.SyncWaiting(waiting);
+  GameWaits();
+  page_->SyncWaiting(waiting);
   const auto until = timers_.UntilNextTick();
   host::ZelvoWait(until ? static_cast<double>(*until) : -1);
   breathed_ = host::ZelvoNow();
-  page_.SyncWaiting("");
+  page_->SyncWaiting("");
   RunPending();
 }
 
@@ -73,27 +74,28 @@ bool PagePlatform::RunPending() {
   bool happened = false;
   std::string input;
   PassTime();
-  page_.Sync();  // an input meets what is to be seen
+  page_->Sync();  // an input meets what is to be seen
   while (IsOpen() && TakeInput(input)) {
     Take(input);
-    page_.Sync();
+    page_->Sync();
     happened = true;
   }
   while (IsOpen()) {
     Control* timer = timers_.NextTick(0);
     if (timer == nullptr) break;
-    game_.Tick(*timer);
-    page_.Sync();
+    surface_->Tick(*timer);
+    page_->Sync();
     happened = true;
   }
   return happened;
 }
 
 bool PagePlatform::IsOpen() const {
-  return !game_.HasEnded() && game_.IsOpen() && (answers_.empty() || !answers_.back());
+  return !surface_->HasEnded() && surface_->IsOpen() && (answers_.empty() || !answers_.back());
 }
 
 void PagePlatform::Take(std::string_view input) {
+  if (page_->Answer(input) || CarryOut(input)) return;
   const auto blank = std::min(input.find(' '), input.size());
   const std::string_view verb = input.substr(0, blank);
   const std::string_view rest = input.substr(std::min(blank + 1, input.size()));
@@ -103,14 +105,14 @@ void PagePlatform::Take(std::string_view input) {
     return;
   }
   std::string error;
-  const auto deed = ReadDeed(game_, verb, rest, error);
-  if (!deed || !game_.Take(*deed)) return;
+  const auto deed = ReadDeed(*surface_, verb, rest, error);
+  if (!deed || !surface_->Take(*deed)) return;
   const bool clicked = deed->kind == Deed::Kind::Click && deed->control != nullptr;
-  if (clicked) page_.TakeInHand(*deed->control);
+  if (clicked) page_->TakeInHand(*deed->control);
 }
 
 std::string_view PagePlatform::Waiting() {
-  const Window* window = game_.InputWindow();
+  const Window* window = surface_->InputWindow();
   return window == nullptr ? "" : window->name();
 }
 
@@ -146,7 +148,7 @@ TimeOfDay PagePlatform::WallClock() {
 bool PagePlatform::PlaySound(const std::string& path, bool waits) {
   const std::string_view file = std::string_view(path).substr(path.rfind('\\') + 1);
   if (host::ZelvoCanPlay() == 0) return false;
-  if (waits) page_.Sync();
+  if (waits) page_->Sync();
   host::ZelvoPlayCue(file.data(), file.size(), waits ? 1 : 0);
   return true;
 }

@@ -6,17 +6,14 @@
 
 #include "faces/browser/page.h"
 #include "faces/timer_list.h"
-#include "game/game.h"
+#include "surface/surface.h"
 
 namespace zelvo {
 
 /// The game's door to the page, in real time. It is the only place where the game's stack is
 /// suspended, and the only one where the player's input and the ticks reach the game.
-class PagePlatform final : public Platform {
+class PagePlatform : public Platform {
  public:
-  /// Starts the game and plays it to the end of the program.
-  void Run();
-
   void Yield() override;
   void YieldUntilEvent() override;
   void RunModal(Window& window) override;
@@ -24,26 +21,38 @@ class PagePlatform final : public Platform {
   bool PlaySound(const std::string& path, bool waits) override;
   TimeOfDay WallClock() override;
   std::string AppFolder() override { return "."; }
-  void SetPointer(MousePointer pointer) override { page_.SetPointer(pointer); }
-  void SetFocus(Control& control) override { page_.Focus(control); }
-  void Refresh(Window& /*window*/) override { page_.Sync(); }
+  void SetPointer(MousePointer pointer) override { page_->SetPointer(pointer); }
+  void SetFocus(Control& control) override { page_->Focus(control); }
+  void Refresh(Window& /*window*/) override { page_->Sync(); }
   void TimerChanged(Control& timer) override;
-  void End() override { page_.SyncWaiting("ended"); }
+  void End() override { page_->SyncWaiting("ended"); }
+
+ protected:
+  /// Ties the page to a game. A further one has to stand in the very place of the first.
+  void Attach(Surface& surface);
+  Page& page() { return *page_; }
+
+  /// Runs what is pending, and if that is nothing, sleeps until something is.
+  void WaitForEvent(std::string_view waiting);
+  std::string_view Waiting();
+
+  /// Called whenever the game comes to wait.
+  virtual void GameWaits() = 0;
+  /// Carries out an input that is meant for the game as a whole; false if it is another.
+  virtual bool CarryOut(std::string_view command) = 0;
 
  private:
-  void WaitForEvent(std::string_view waiting);
   bool RunPending();
   bool IsOpen() const;
   void Take(std::string_view input);
   void PassTime();
-  std::string_view Waiting();
 
   std::vector<std::optional<Answer>> answers_;  // of open message boxes, innermost last
   TimerList timers_;
   double passedUntil_ = 0;  // by the page's clock
   double breathed_ = 0;     // when the page last had its turn
-  Game game_{*this};
-  Page page_{game_};
+  Surface* surface_ = nullptr;
+  std::optional<Page> page_;
 };
 
 }  // namespace zelvo

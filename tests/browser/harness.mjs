@@ -56,14 +56,30 @@ export async function start() {
   };
 }
 
+/// Time runs so many times as fast for the page as for the test; `zelvoSpeed(times)` changes that.
+export const hasten = (times) => (page) => page.addInitScript((initial) => {
+  const now = performance.now.bind(performance);
+  const later = window.setTimeout.bind(window);
+  let speed = initial;
+  let begin = 0;
+  let passed = 0;
+  performance.now = () => passed + (now() - begin) * speed;
+  window.setTimeout = (task, delay = 0, ...rest) => later(task, delay / speed, ...rest);
+  window.zelvoSpeed = (changed) => {
+    passed = performance.now();
+    begin = now();
+    speed = changed;
+  };
+}, times);
+
 /// Waits until the game waits for the player in a window, or in any.
 export const waiting = (page, name) => page.waitForFunction(
   (wanted) => (wanted ? document.body.dataset.waiting === wanted : document.body.dataset.waiting !== ''),
   name, { timeout: limit });
 
-/// The lines of the scripted face to a list of commands.
-export function scripted(commands) {
-  const run = spawnSync(headless, { input: commands.join('\n') + '\n', maxBuffer: 1 << 30 });
+/// The lines of the scripted face, called with these options, to a list of commands.
+export function scripted(commands, ...options) {
+  const run = spawnSync(headless, options, { input: commands.join('\n') + '\n', maxBuffer: 1 << 30 });
   return run.stdout.toString().trimEnd().split('\n');
 }
 

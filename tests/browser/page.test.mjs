@@ -1,7 +1,7 @@
 import assert from 'node:assert/strict';
 import { after, afterEach, before, test } from 'node:test';
 
-import { expected, limit, scripted, seen, start, waiting } from './harness.mjs';
+import { expected, hasten, limit, scripted, seen, start, waiting } from './harness.mjs';
 import { bringPlayers, playByEvents } from './players.mjs';
 
 let site;
@@ -80,17 +80,9 @@ test('a command of scripted play can be carried out on the page', async () => {
   assert.equal(await page.evaluate(() => window.zelvo.lines.length), 1);
 });
 
-/// Time runs faster for the page than for the test.
-const hasten = (page) => page.addInitScript((times) => {
-  const now = performance.now.bind(performance);
-  const later = window.setTimeout.bind(window);
-  performance.now = () => now() * times;
-  window.setTimeout = (task, delay = 0, ...rest) => later(task, delay / times, ...rest);
-}, 40);
-
 for (const form of ['', '?suspend=asyncify']) {
   test(`a game in real time is played with the mouse ${form}`, async () => {
-    const page = await site.page(form, { prepare: hasten });
+    const page = await site.page(form, { prepare: hasten(40) });
     await waiting(page, 'GST');
     await page.evaluate(bringPlayers, 3);
     await page.dblclick(at('GST.CMDSTART'));
@@ -160,6 +152,11 @@ test('a screen reader hears what everything is', async () => {
     assert.match(name, /^Lot \d+, (player's|computer's|open lot|condemned lot|lot without zoning|golf|park|casino|mall)/);
   }
   assert.ok(told.some(({ name }) => name.startsWith("Player's credit, ")));
+  for (const [key, said] of [['F3', /^Player's credit, .* Bank's net worth, /], ['F2', /Lot # +\d+ Opened/]]) {
+    await page.keyboard.press(key);
+    await page.waitForFunction((pattern) => new RegExp(pattern).test(
+      document.querySelector('[role=alert].said')?.textContent), said.source, { timeout: limit });
+  }
 });
 
 for (const [width, height] of [[360, 640], [360, 740], [640, 360], [844, 390], [3840, 2160]]) {

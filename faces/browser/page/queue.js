@@ -7,10 +7,12 @@ export class Queue {
   #inputs = [];
   #scene;
   #wake = null;
+  #clock;
   #channel = new MessageChannel();
 
-  constructor(scene) {
+  constructor(scene, clock) {
     this.#scene = scene;
+    this.#clock = clock;
     this.#channel.port1.onmessage = () => this.#wake?.();
   }
 
@@ -19,9 +21,10 @@ export class Queue {
     this.#add({ text, seen: true, scene: this.#scene() });
   }
 
-  /// A command, whatever is to be seen. `answered` gets its line.
-  order(text, answered) {
-    this.#add({ text, seen: false, answered });
+  /// A command, whatever is to be seen. `answered` gets its line; `file` holds the bytes that it is
+  /// about.
+  order(text, { answered, file } = {}) {
+    this.#add({ text, seen: false, answered, file });
   }
 
   /// The next input, null if there is none.
@@ -33,11 +36,11 @@ export class Queue {
     return null;
   }
 
-  /// Waits until there is an input or that many milliseconds are over; 0 gives the page its turn,
+  /// Waits until there is an input or that many milliseconds of the game are over; 0 gives the page its turn,
   /// and less than 0 is for ever.
   wait(milliseconds) {
-    if (this.#inputs.length > 0) return undefined;
-    return new Promise((resolve) => {
+    if (this.#inputs.length > 0 && !this.#clock.isStopped) return undefined;
+    return this.#clock.held(new Promise((resolve) => {
       let timer = 0;
       this.#wake = () => {
         this.#wake = null;
@@ -45,8 +48,9 @@ export class Queue {
         resolve();
       };
       if (milliseconds === 0) this.#channel.port2.postMessage(null);
-      if (milliseconds > 0) timer = setTimeout(this.#wake, milliseconds);
-    });
+      if (milliseconds > 0) timer = setTimeout(this.#wake, milliseconds / this.#clock.pace);
+      if (this.#inputs.length > 0) this.#wake();
+    }));
   }
 
   #add(input) {

@@ -10,8 +10,10 @@ export class Sounds {
   #files = new Map();  // the bytes of those that have come
   #context = null;
   #cutOff = () => {};  // ends what plays
+  #clock;
 
-  constructor() {
+  constructor(clock) {
+    this.#clock = clock;
     if (!this.canPlay()) return;
     for (const gesture of gestures) addEventListener(gesture, () => this.#wake(), true);
   }
@@ -33,13 +35,18 @@ export class Sounds {
     }
   }
 
-  /// Plays a cue and cuts off the one that plays; with `waits` gives a promise of its end.
-  play(file, waits) {
+  hush() {
     this.#cutOff();
     this.#cutOff = () => {};
+  }
+
+  /// Plays a cue and cuts off the one that plays; with `waits` gives a promise of its end, or of the
+  /// time when it has lasted long enough for the game's pace.
+  play(file, waits) {
+    this.hush();
     if (this.#context === null || !this.#files.has(file)) return undefined;
     const end = new Promise((resolve) => this.#start(file, resolve));
-    return waits ? end : undefined;
+    return waits ? this.#clock.held(end) : undefined;
   }
 
   /// Not every gesture is one to the browser: a finger counts only when it is lifted.
@@ -70,7 +77,7 @@ export class Sounds {
       source.onended = end;
       source.start();
       // A device that never tells of the end is not waited for any longer than the cue is.
-      setTimeout(end, samples.duration * 1000);
+      setTimeout(over, (samples.duration * 1000) / this.#clock.pace);
     } catch {
       end();
     }

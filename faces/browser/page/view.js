@@ -33,7 +33,9 @@ export class View {
   #pictures;  // addresses by file
   #twitches;
   #put = () => {};
+  #ask = () => {};
   #message = null;  // the dialog of the open message box
+  #said = null;  // what was said last
   #inHand = null;
   #left = null;  // went away with the focus
   #passedTo = null;  // and this one got it
@@ -47,9 +49,11 @@ export class View {
     this.#twitches = twitches;
   }
 
-  /// Hands what the player does to a function, as commands of scripted play, from now on.
-  listen(put) {
+  /// Hands what the player does to a function, as commands of scripted play, from now on, and what
+  /// he wants to hear to another.
+  listen(put, ask) {
     this.#put = put;
+    this.#ask = ask;
     document.addEventListener('click', (event) => this.#clicked(event));
     document.addEventListener('pointerover', (event) => this.#moved(event));
     document.addEventListener('pointermove', (event) => this.#moved(event));
@@ -85,6 +89,7 @@ export class View {
     for (const window of opened) this.#come(window);
     if ('message' in change) this.#syncMessage(change.message);
     if ('inHand' in change) this.#syncInHand(change.inHand);
+    if ('said' in change) this.#say(change.said);
     if ('busy' in change) document.body.classList.toggle('busy', change.busy);
     if ('focus' in change) this.#controls[change.focus]?.element.focus();
     if ('waiting' in change) document.body.dataset.waiting = change.waiting;
@@ -92,6 +97,15 @@ export class View {
     if (this.#tight.size > 0) fit([...this.#tight]);
     this.#tight.clear();
     this.#hovered = null;
+  }
+
+  /// Has a screen reader say something, wherever the focus is. What is under a dialog is not heard.
+  #say(text) {
+    this.#said?.remove();
+    this.#said = make('div', 'spoken said');
+    this.#said.setAttribute('role', 'alert');
+    (this.#message ?? this.#top()?.element)?.append(this.#said);
+    this.#said.textContent = text;
   }
 
   // Windows.
@@ -544,11 +558,20 @@ export class View {
   #pressByKey(event) {
     const modifiers = [['ctrlKey', 'Ctrl+'], ['shiftKey', 'Shift+'], ['altKey', 'Alt+']];
     const name = modifiers.map(([key, text]) => (event[key] ? text : '')).join('') + event.key;
-    if (!['Escape', 'F1', 'Ctrl+Enter'].includes(name)) return;
+    if (!['Escape', 'Ctrl+Enter', 'F1', 'F2', 'F3'].includes(name)) return;
     event.preventDefault();
     if (event.repeat) return;
+    if (name === 'F3') {
+      this.#ask('say standing');
+      return;
+    }
     if (this.#message !== null) {
       if (name === 'Escape') this.#message.querySelector('.answer:last-child').click();
+      if (name === 'F2') this.#say(this.#message.querySelector('.text').textContent);
+      return;
+    }
+    if (name === 'F2') {
+      this.#ask('say news');
       return;
     }
     const window = this.#top();

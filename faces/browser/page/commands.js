@@ -1,0 +1,215 @@
+// What the player can do with the game as a whole: the menu of it, its keys, and the files of kept
+// games. The game stands still while something of this is open.
+
+const longTouch = 600;  // milliseconds
+const slip = 10;  // pixels that a finger may move meanwhile
+const longestFile = 16 * 1024 * 1024;  // bytes, the games of a year
+const suffix = '.zelvo';
+
+function make(tag, className, ...children) {
+  const element = document.createElement(tag);
+  element.className = className;
+  if (tag === 'button') element.type = 'button';
+  element.append(...children);
+  return element;
+}
+
+export class Commands {
+  #queue;
+  #clock;
+  #sounds;
+  #designs = [];
+  #can = { takeBack: false, doAgain: false };
+  #touch = 0;  // a timer, while a finger may stay for long
+  #touched = [0, 0];
+
+  constructor(queue, clock, sounds) {
+    this.#queue = queue;
+    this.#clock = clock;
+    this.#sounds = sounds;
+  }
+
+  build(designs) {
+    this.#designs = designs;
+    if (designs.length === 0) return;
+    // Ahead of all that the game's own windows do with keys and clicks.
+    addEventListener('keydown', (event) => this.#keyPressed(event), true);
+    addEventListener('contextmenu', (event) => this.#menuAsked(event), true);
+    addEventListener('pointerdown', (event) => this.#fingerDown(event), true);
+    addEventListener('pointermove', (event) => this.#fingerMoved(event), true);
+    for (const end of ['pointerup', 'pointercancel']) {
+      addEventListener(end, () => clearTimeout(this.#touch), true);
+    }
+    addEventListener('dragover', (event) => event.preventDefault());
+    addEventListener('drop', (event) => {
+      event.preventDefault();
+      if (event.dataTransfer.files.length > 0) this.#goOnWith(event.dataTransfer.files[0]);
+    });
+  }
+
+  show({ can, notice }) {
+    if (can !== undefined) [this.#can.takeBack, this.#can.doAgain] = can;
+    if (notice !== undefined) this.#warn(notice);
+  }
+
+  download(list) {
+    const link = document.createElement('a');
+    link.href = URL.createObjectURL(new Blob([list], { type: 'application/x-zelvo-game' }));
+    link.download = `game${suffix}`;
+    link.click();
+    setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
+  }
+
+  get #isOpen() {
+    return document.querySelector('.own') !== null;
+  }
+
+  #canDo({ does }) {
+    return this.#can[does] ?? document.body.dataset.waiting !== 'ended';
+  }
+
+  #do(design) {
+    if (!this.#canDo(design)) return;
+    if (design.does === 'setPace') {
+      this.#clock.setPace(design.pace);
+    } else if (design.does === 'goOn') {
+      this.#chooseFile();
+    } else {
+      this.#order(design.does);
+    }
+  }
+
+  #order(text, file) {
+    this.#sounds.hush();
+    this.#queue.order(text, { file });
+  }
+
+  // Files.
+
+  #chooseFile() {
+    const input = make('input', '');
+    input.type = 'file';
+    input.accept = suffix;
+    input.addEventListener('change', () => this.#goOnWith(input.files[0]));
+    input.click();
+  }
+
+  async #goOnWith(file) {
+    try {
+      if (file.size > longestFile) throw new Error('it is too long');
+      this.#order(`goOn ${file.name}`, new Uint8Array(await file.arrayBuffer()));
+    } catch (error) {
+      this.#warn(`${file.name} cannot be read: ${error.message}.`);
+    }
+  }
+
+  // Windows of the page's own.
+
+  /// Shows a dialog; the clock goes on when it is closed.
+  #open(dialog) {
+    document.body.append(dialog);
+    dialog.addEventListener('close', () => {
+      dialog.remove();
+      if (!this.#isOpen) this.#clock.goOn();
+    });
+    this.#clock.stop();
+    dialog.showModal();
+  }
+
+  #warn(sentence) {
+    const ok = make('button', 'answer', 'OK');
+    const text = make('p', 'text', sentence);
+    text.id = 'notice';
+    const dialog = make('dialog', 'window message warns own',
+      make('header', 'bar', make('span', 'title', 'Zelvo')), text, make('div', 'answers', ok));
+    dialog.dataset.window = 'notice';
+    dialog.setAttribute('aria-label', 'Zelvo');
+    dialog.setAttribute('aria-describedby', text.id);
+    ok.addEventListener('click', () => dialog.close());
+    this.#open(dialog);
+  }
+
+  #openMenu(left, top) {
+    if (this.#isOpen || document.body.dataset.waiting === 'ended') return;
+    const menu = make('dialog', 'menu own');
+    menu.setAttribute('role', 'menu');
+    menu.setAttribute('aria-label', 'Game');
+    for (const design of this.#designs) {
+      if (design.pace === 1) menu.append(document.createElement('hr'));
+      menu.append(this.#makeItem(design, menu));
+    }
+    menu.addEventListener('click', ({ target }) => target === menu && menu.close());
+    this.#open(menu);
+    const { width, height } = menu.getBoundingClientRect();
+    menu.style.left = `${Math.max(0, Math.min(left, innerWidth - width))}px`;
+    menu.style.top = `${Math.max(0, Math.min(top, innerHeight - height))}px`;
+  }
+
+  #makeItem(design, menu) {
+    const item = make('button', 'item', make('span', '', design.name), make('kbd', '', design.key));
+    const isPace = design.pace !== 0;
+    item.setAttribute('role', isPace ? 'menuitemradio' : 'menuitem');
+    item.setAttribute('aria-label', design.name);
+    item.setAttribute('aria-keyshortcuts', design.key.replace('Ctrl', 'Control'));
+    if (isPace) item.setAttribute('aria-checked', design.pace === this.#clock.pace);
+    item.dataset.command = design.key;
+    item.disabled = !this.#canDo(design);
+    item.addEventListener('click', () => {
+      menu.close();
+      this.#do(design);
+    });
+    return item;
+  }
+
+  /// Up and down in the menu; what else there is of keys, the browser does.
+  #walk(event) {
+    event.stopPropagation();
+    const items = [...document.querySelectorAll('.menu .item:enabled')];
+    const here = items.indexOf(document.activeElement);
+    const ways = { ArrowDown: here + 1, ArrowUp: here - 1, Home: 0, End: -1 };
+    if (items.length === 0 || !(event.key in ways)) return undefined;
+    event.preventDefault();
+    return items.at(ways[event.key] % items.length).focus();
+  }
+
+  // The player.
+
+  #keyPressed(event) {
+    if (this.#isOpen) return this.#walk(event);
+    if (event.key === 'ContextMenu' || (event.key === 'F10' && event.shiftKey)) {
+      this.#menuAsked(event);
+      return undefined;
+    }
+    const held = [[event.ctrlKey || event.metaKey, 'Ctrl+'], [event.shiftKey, 'Shift+'],
+      [event.altKey, 'Alt+']];
+    const key = held.map(([isHeld, name]) => (isHeld ? name : '')).join('')
+      + event.key.toUpperCase();
+    const design = this.#designs.find((each) => each.key.toUpperCase() === key.toUpperCase());
+    if (design === undefined) return undefined;
+    event.preventDefault();
+    event.stopPropagation();
+    return this.#do(design);
+  }
+
+  /// By the right mouse button, a key, or a finger that the browser itself finds to stay for long.
+  #menuAsked(event) {
+    event.preventDefault();
+    event.stopPropagation();
+    clearTimeout(this.#touch);
+    if (event.clientX > 0 || event.clientY > 0) return this.#openMenu(event.clientX, event.clientY);
+    const { left, bottom } = document.activeElement.getBoundingClientRect();
+    return this.#openMenu(left, bottom);
+  }
+
+  #fingerDown({ pointerType, isPrimary, clientX, clientY }) {
+    clearTimeout(this.#touch);
+    if (pointerType !== 'touch' || !isPrimary) return;
+    this.#touched = [clientX, clientY];
+    this.#touch = setTimeout(() => this.#openMenu(clientX, clientY), longTouch);
+  }
+
+  #fingerMoved({ clientX, clientY }) {
+    const [x, y] = this.#touched;
+    if (Math.hypot(clientX - x, clientY - y) > slip) clearTimeout(this.#touch);
+  }
+}

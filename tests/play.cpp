@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -71,26 +69,6 @@ std::vector<std::string> Pieces(const std::string& table, char separator) {
     if (first != std::string::npos) pieces.push_back(piece.substr(first, last - first + 1));
   }
   return pieces;
-}
-
-std::string ReadTestFile(const std::string& file) {
-  std::ifstream stream(ZELVO_SOURCE_DIR "/tests/" + file);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void ExpectAsRecorded(const std::string& file, const std::string& now,
-                      bool (*isHeading)(const std::string& line)) {
-  const std::string recorded = ReadTestFile(file);
-  if (recorded == now) return;
-  const std::string left = ZELVO_PROGRAMS "/" + file.substr(file.rfind('/') + 1);
-  std::ofstream(left) << now;
-  std::istringstream was(recorded), is(now);
-  std::string heading, line, other;
-  while (std::getline(was, line) && std::getline(is, other) && line == other) {
-    if (isHeading(line)) heading = line;
-  }
-  ADD_FAILURE() << file << ", after " << heading << "\nrecorded: " << line
-                << "\nnow:      " << other << "\nall of it: " << left;
 }
 
 Scripted::Scripted(const std::string& script)

@@ -35,15 +35,6 @@ std::string Lot(int lot, const std::string& tag, const std::string& value);
 /// The pieces of a table between its separators, without blanks and line ends around them.
 std::vector<std::string> Pieces(const std::string& table, char separator = '|');
 
-/// Compares a recording, a file of the tests, with what is recorded now. What differs is left
-/// beside the programs, to be looked at and put in the place of the recording if it is as it should
-/// be. `isHeading` tells which lines say where in the recording a line is.
-void ExpectAsRecorded(const std::string& file, const std::string& now,
-                      bool (*isHeading)(const std::string& line));
-
-/// A file of the tests.
-std::string ReadTestFile(const std::string& file);
-
 struct ScriptStreams {
   std::istringstream commands;
   std::ostringstream output;

@@ -9,6 +9,7 @@
 #include "faces/headless/variables.h"
 #include "presentation/cues.h"
 #include "tests/play.h"
+#include "tests/recorded.h"
 
 namespace zelvo::test {
 namespace {

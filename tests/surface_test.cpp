@@ -6,6 +6,7 @@
 #include "faces/headless/auto_player.h"
 #include "surface/speech.h"
 #include "tests/play.h"
+#include "tests/recorded.h"
 
 namespace zelvo::test {
 namespace {

@@ -160,6 +160,12 @@ TEST_F(Keyboard, TheKeyboardReachesWhateverCanBeClickedAndAVoiceNamesIt) {
       }
     };
     for (int press = 0; press < 40; ++press) reach(Qt::Key_Tab);
+    // Shift and Tab go the same way back.
+    for (std::size_t stop = reached.size(); stop > 0; --stop) {
+      reached[stop % reached.size()]->setFocus();
+      Type(Qt::Key_Backtab);
+      EXPECT_EQ(QApplication::focusWidget(), reached[stop - 1]) << stop;
+    }
     for (std::size_t walked = 0; walked < reached.size();) {
       QWidget* from = reached[walked++];
       for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {

@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <set>
 #include <tuple>
 
 #include "tests/desktop/player.h"
@@ -119,6 +120,22 @@ TEST_F(Input, TheBoardCanBeClosedInTheMiddleOfATurn) {
   EXPECT_FALSE(game.HasEnded());
 }
 
+TEST_F(Input, ThePointerIsAnHourglassWhileTheComputerIsAtWork) {
+  StartGame();
+  std::set<bool> seen;
+  QTimer look;
+  QObject::connect(&look, &QTimer::timeout, [&] {
+    const QCursor* cursor = QGuiApplication::overrideCursor();
+    EXPECT_TRUE(cursor == nullptr || cursor->shape() == Qt::WaitCursor);
+    EXPECT_EQ(cursor != nullptr, game.pointer() == MousePointer::Hourglass);
+    seen.insert(cursor != nullptr);
+  });
+  look.start(0);
+  for (int turn = 0; turn < 5; ++turn) Press(game.GFM->CMDGO);
+  EXPECT_EQ(seen.size(), 2U);
+  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+}
+
 TEST_F(Input, MessageBoxesAnswer) {
   using Case = std::tuple<MessageStyle, QMessageBox::StandardButton, Answer>;
   for (const auto& [style, button, answer] :
@@ -129,8 +146,15 @@ TEST_F(Input, MessageBoxesAnswer) {
         Case{MessageStyle::OkExclamation, QMessageBox::NoButton, Answer::Ok}}) {
     const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
     Once([box] { return box() != nullptr; },
-         [box, pressed = button] {
+         [this, box, pressed = button, style = style] {
            EXPECT_EQ(box()->windowTitle() + ": " + box()->text(), "Zelvo: One\nTwo");
+           const bool question = style == MessageStyle::YesNoQuestion;
+           EXPECT_EQ(box()->buttons().size(), question ? 2 : 1);
+           EXPECT_EQ(box()->icon(), question                    ? QMessageBox::Question
+                                    : style == MessageStyle::Ok ? QMessageBox::NoIcon
+                                                                : QMessageBox::Warning);
+           EXPECT_EQ(box()->parentWidget(), &View(game.GST));
+           EXPECT_EQ(box()->font().pixelSize(), static_cast<int>(13 * View(game.GST).Scale()));
            QAbstractButton* at = box()->button(pressed);
            at != nullptr ? at->click() : QTest::keyClick(box(), Qt::Key_Escape);
          });

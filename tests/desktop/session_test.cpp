@@ -1,5 +1,6 @@
 #include <QContextMenuEvent>
 #include <QFile>
+#include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QMenu>
@@ -246,12 +247,16 @@ TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) 
   QApplication::sendEvent(&Widget(game.GFM.Untouched().Image1[5]), &rightButton);
   auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   ASSERT_NE(menu, nullptr);
-  QStringList texts;
-  for (const QAction* action : menu->actions()) texts += action->text();
-  for (const CommandDesign& design : commandDesigns) {
-    const std::string text = std::string(design.name) + "\t" + std::string(design.key);
-    EXPECT_TRUE(texts.contains(QString::fromStdString(text))) << text;
+  QString lines;
+  for (const QAction* action : menu->actions()) {
+    lines += action->isSeparator() ? "-" : action->text();
+    lines += action->isChecked() ? " (chosen)\n" : action->isEnabled() ? "\n" : " (not now)\n";
   }
+  EXPECT_EQ(lines.toStdString(),
+            "Keep this game in a file...\tCtrl+S\nGo on with a kept game...\tCtrl+O\n"
+            "Take back\tCtrl+Z\nDo again\tCtrl+Shift+Z (not now)\n-\n"
+            "Waits as they are\tCtrl+1 (chosen)\nWaits twice as fast\tCtrl+2\n"
+            "Waits five times as fast\tCtrl+5\n");
   game.GFM.Untouched().Timer1.SetInterval(10);
   game.GFM.Untouched().Timer1.SetEnabled(true);
   game.Work = 0;
@@ -261,6 +266,34 @@ TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) 
   EXPECT_TRUE(QTest::qWaitFor([this] { return game.Work > 0; }));
   Run({Keys(Qt::Key_5)});
   EXPECT_EQ(platform.pace(), 5);
+}
+
+TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
+  const auto choose = [this](QFileDialog::AcceptMode mode, const QString& path) {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->acceptMode(), mode);
+    EXPECT_TRUE(platform.IsPaused());
+    Keys(Qt::Key_Z)();  // which would take back
+    dialog->fileSelected(path);
+    dialog->reject();
+  };
+  Run({Press(game.GST.Untouched().CMDSTART), Press(game.GFM.Untouched().Image1[0])});
+  Run({Keys(Qt::Key_S)});
+  choose(QFileDialog::AcceptSave, file);
+  Run({[] {}});
+  EXPECT_EQ(InFile().toStdString(), List());
+  const QByteArray kept = InFile();
+  Run({Press(game.GFM.Untouched().Image1[5]), Keys(Qt::Key_O)});
+  EXPECT_TRUE(InFile().startsWith(kept) && InFile().size() > kept.size());
+  choose(QFileDialog::AcceptOpen, "/no/such");
+  ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(box->text(), "/no/such cannot be read: No such file or directory.");
+  EXPECT_EQ(box->icon(), QMessageBox::Warning);
+  box->accept();
+  EXPECT_FALSE(platform.IsPaused());
 }
 
 }  // namespace

@@ -5,8 +5,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <atomic>
 #include <tuple>
 
+#include "faces/desktop/sound_player.h"
 #include "game/start.h"
 #include "presentation/cues.h"
 #include "tools/gallery/desktop_game.h"
@@ -91,6 +93,19 @@ TEST_F(Sound, ImpatientClicksWhileItSoundsStartOneGame) {
   sound->started = 0;
   for (int look = 0; look < 3; ++look) game.Yield();
   EXPECT_EQ(sound->started, 1);
+}
+
+TEST(SoundPlayers, FindOutThatThereIsNoServerAndTellThatTheSoundIsOver) {
+  qputenv("PULSE_SERVER", "unix:/no/such");
+  std::atomic<int> over = 0;
+  const auto player = MakeSoundPlayer([&over] { ++over; });
+  EXPECT_TRUE(player->IsThere() && !player->IsPlaying()) << "nobody knows yet";
+  for (int sound = 0; sound < 2; ++sound) {
+    over = 0;
+    player->Start({1, 8'000, 8, QByteArray(8'000, '\x80')});
+    ASSERT_TRUE(QTest::qWaitFor([&] { return over > 0; }));
+    EXPECT_FALSE(player->IsThere() || player->IsPlaying());
+  }
 }
 
 TEST(WaveFiles, SayHowLongTheyAre) {

@@ -34,9 +34,6 @@ TimeOfDay LocalTime() {
 /// Ends a wait for events; may be called from any thread.
 void WakeUp() { QAbstractEventDispatcher::instance(qApp->thread())->wakeUp(); }
 
-/// A cue does not hold the game for longer.
-constexpr std::chrono::seconds longestWait{10};
-
 }  // namespace
 
 Machine ThisMachine(const QString& dataFolder) {
@@ -358,7 +355,7 @@ bool DesktopPlatform::PlaySound(const std::string& path, bool waits) {
   const auto wave = ReadWaveFile(machine_.dataFolder + "/sounds/" + QString::fromStdString(name));
   if (wave) {
     machine_.sound->Start(*wave);
-    if (waits) WaitForSound(std::min<std::chrono::milliseconds>(wave->Length(), longestWait));
+    if (waits) WaitForSound(wave->LongestWait());
   }
   return machine_.sound->IsThere();
 }

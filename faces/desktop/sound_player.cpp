@@ -1,6 +1,8 @@
 #include "faces/desktop/sound_player.h"
 
 #include <pulse/pulseaudio.h>
+#include <sys/eventfd.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <chrono>
@@ -29,6 +31,11 @@ constexpr std::chrono::seconds longestFarewell{1};
 
 /// What the game and the player's thread share.
 struct Shared {
+  Shared() = default;
+  Shared(const Shared&) = delete;
+  Shared& operator=(const Shared&) = delete;
+  ~Shared() { close(bell); }
+
   std::mutex mutex;  // never held while the sound server is spoken to
   std::condition_variable changed;
   std::function<void()> over;
@@ -37,26 +44,37 @@ struct Shared {
   bool there = true;
   bool leave = false;
   bool left = false;
-  pa_mainloop* loop = nullptr;  // the thread's, for the game only to wake it up
+  // Rings until the thread has heard it. The server's loop has a call of its own to wake it up, but
+  // forgets one that comes just before it begins to wait.
+  const int bell = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
 };
 
 /// Plays on the sound server what is ordered, in a thread of its own. Nothing in it waits but
 /// the loop, so that a server that does not answer, dies or comes back holds up nobody.
 class Voice {
  public:
-  explicit Voice(Shared& shared) : shared_(shared) {}
+  explicit Voice(Shared& shared) : shared_(shared) {
+    pa_mainloop_api* api = pa_mainloop_get_api(loop_);
+    api->io_new(api, shared.bell, PA_IO_EVENT_INPUT, Hear, nullptr);
+  }
   Voice(const Voice&) = delete;
   Voice& operator=(const Voice&) = delete;
   ~Voice() {
     CloseStream();
     CloseContext();
+    pa_mainloop_free(loop_);
   }
 
   void Run() {
-    while (TakeOrder()) pa_mainloop_iterate(shared_.loop, 1, nullptr);
+    while (TakeOrder()) pa_mainloop_iterate(loop_, 1, nullptr);
   }
 
  private:
+  static void Hear(pa_mainloop_api*, pa_io_event*, int bell, pa_io_event_flags_t, void*) {
+    eventfd_t rings = 0;
+    eventfd_read(bell, &rings);
+  }
+
   /// False if there is no more to do.
   bool TakeOrder() {
     std::optional<Order> order;
@@ -94,7 +112,7 @@ class Voice {
     pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "org.zelvo.Zelvo");
     pa_proplist_sets(properties, PA_PROP_APPLICATION_ICON_NAME, "org.zelvo.Zelvo");
     pa_proplist_sets(properties, PA_PROP_MEDIA_ROLE, "game");
-    context_ = pa_context_new_with_proplist(pa_mainloop_get_api(shared_.loop), "Zelvo", properties);
+    context_ = pa_context_new_with_proplist(pa_mainloop_get_api(loop_), "Zelvo", properties);
     pa_proplist_free(properties);
     pa_context_set_state_callback(
         context_, [](pa_context*, void* voice) { static_cast<Voice*>(voice)->ContextChanged(); },
@@ -185,6 +203,7 @@ class Voice {
   }
 
   Shared& shared_;
+  pa_mainloop* loop_ = pa_mainloop_new();
   pa_context* context_ = nullptr;
   pa_stream* stream_ = nullptr;
   pa_operation* drain_ = nullptr;  // tells when all that was written has been heard
@@ -196,7 +215,6 @@ class Voice {
 void RunVoice(const std::shared_ptr<Shared>& shared) {
   Voice(*shared).Run();
   const std::lock_guard lock(shared->mutex);
-  pa_mainloop_free(std::exchange(shared->loop, nullptr));
   shared->left = true;
   shared->changed.notify_all();
 }
@@ -210,7 +228,7 @@ class ServerPlayer : public SoundPlayer {
     std::unique_lock lock(shared_->mutex);
     shared_->over = nullptr;
     shared_->leave = true;
-    pa_mainloop_wakeup(shared_->loop);
+    eventfd_write(shared_->bell, 1);
     const bool left =
         shared_->changed.wait_for(lock, longestFarewell, [this] { return shared_->left; });
     lock.unlock();
@@ -221,12 +239,8 @@ class ServerPlayer : public SoundPlayer {
     const std::lock_guard lock(shared_->mutex);
     shared_->order = {wave, Clock::now()};
     shared_->playing = true;
-    if (thread_.joinable()) {
-      pa_mainloop_wakeup(shared_->loop);
-    } else {
-      shared_->loop = pa_mainloop_new();
-      thread_ = std::thread(RunVoice, shared_);
-    }
+    eventfd_write(shared_->bell, 1);
+    if (!thread_.joinable()) thread_ = std::thread(RunVoice, shared_);
   }
 
   bool IsPlaying() override {

@@ -30,8 +30,10 @@ QByteArray Chunk(const QByteArray& file, const char* name) {
 
 }  // namespace
 
-std::chrono::milliseconds WaveFile::Length() const {
-  return std::chrono::milliseconds(samples.size() / BytesPerFrame() * 1000 / samplesPerSecond);
+std::chrono::milliseconds WaveFile::LongestWait() const {
+  const std::chrono::milliseconds length(samples.size() / BytesPerFrame() * 1000 /
+                                         samplesPerSecond);
+  return std::min<std::chrono::milliseconds>(length, std::chrono::seconds(10));
 }
 
 std::optional<WaveFile> ReadWaveFile(const QString& path) {

@@ -16,7 +16,8 @@ struct WaveFile {
 
   /// A frame is what sounds at one time: a sample for each channel.
   int BytesPerFrame() const { return channels * bitsPerSample / 8; }
-  std::chrono::milliseconds Length() const;
+  /// How long the game waits for it at most: its length, but never more than ten seconds.
+  std::chrono::milliseconds LongestWait() const;
 };
 
 /// Reads a wave file; nothing if it is missing, no regular

@@ -108,7 +108,7 @@ TEST(SoundPlayers, FindOutThatThereIsNoServerAndTellThatTheSoundIsOver) {
   }
 }
 
-TEST(WaveFiles, SayHowLongTheyAre) {
+TEST(WaveFiles, SayHowLongTheGameWaitsForThem) {
   QTemporaryDir folder;
   const QString pipe = folder.filePath("pipe");
   ASSERT_EQ(mkfifo(pipe.toLocal8Bit(), 0600), 0);
@@ -121,7 +121,7 @@ TEST(WaveFiles, SayHowLongTheyAre) {
     file.write(bytes);
     file.close();
     const auto wave = ReadWaveFile(file.fileName());
-    return wave ? static_cast<long>(wave->Length().count()) : -1;
+    return wave ? static_cast<long>(wave->LongestWait().count()) : -1;
   };
   // A second of silence: one channel, 8,000 samples of one byte.
   const QByteArray header(
@@ -133,6 +133,7 @@ TEST(WaveFiles, SayHowLongTheyAre) {
     return QByteArray(good).replace(at, bytes.size(), bytes);
   };
   EXPECT_EQ(length(good), 1'000);
+  EXPECT_EQ(length(with(40, "\xff\xff\xff\x7f") + QByteArray(92'000, '\x80')), 10'000);
   // A header that promises more than there is does not make the sound longer.
   EXPECT_EQ(length(good.left(44 + 4'000)), 500);
   EXPECT_EQ(length(with(40, "\xff\xff\xff\xff")), 1'000);

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <cmath>
+#include <map>
 #include <set>
 #include <tuple>
 
@@ -110,28 +111,34 @@ TEST_F(OnScreen, ADrawThatWaitsForTheClockKeepsTheWindowsPainted) {
 
 TEST_F(OnScreen, WhatSpeaksOfALotStandsBesideIt) {
   StartGame();
-  for (Control& lot : game.GFM->Image1) lot.Tag = "PSH";
-  std::set<const Control*> seen;
+  std::map<const Window*, std::set<int>> seen;
   QTimer player;
   QObject::connect(&player, &QTimer::timeout, [&] {
     Window* window = game.InputWindow();
     if (window == nullptr || window->keepsClearOf == nullptr) return;
-    const Control& lot = game.GFM->Image1[game.CurLot];
-    const ControlWidget& widget = *View(game.GFM).Find(lot);
-    const QRect place(widget.mapToGlobal(QPoint()), widget.size());
-    EXPECT_FALSE(View(*window).frameGeometry().intersects(place)) << game.CurLot;
-    EXPECT_TRUE(View(*window).screen()->geometry().contains(View(*window).frameGeometry()));
-    seen.insert(&lot);
+    const ControlWidget& lot = *View(game.GFM).Find(game.GFM->Image1[game.CurLot]);
+    const QRect place(lot.mapToGlobal(QPoint()), lot.size());
+    const QRect dialog = View(*window).frameGeometry();
+    EXPECT_FALSE(dialog.intersects(place)) << window->name() << ' ' << game.CurLot;
+    EXPECT_TRUE(View(*window).screen()->geometry().contains(dialog));
+    seen[window].insert(game.CurLot);
     platform.Deliver([&](Surface& surface) {
       surface.Click(window == &game.SV.Untouched() ? game.SV->CMDOK : game.ML->CMD1[1]);
     });
   });
   player.start(0);
-  now.second = 22;  // repairs are due
-  for (int turn = 0; turn < 5; ++turn) {
-    platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDGO); });
-  }
-  EXPECT_GE(seen.size(), 5U);
+  const auto turns = [this](const char* tag, int second) {
+    for (int turn = 0; turn < 5; ++turn) {
+      for (Control& lot : game.GFM->Image1) lot.Tag = tag;
+      now.second = second;
+      game.MallNext = 1;
+      platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDGO); });
+    }
+  };
+  turns("PSH", 22);  // repairs are due
+  turns("U", 33);    // a mall is zoned
+  EXPECT_GE(seen[&game.SV.Untouched()].size(), 5U);
+  EXPECT_GE(seen[&game.ML.Untouched()].size(), 5U);
 }
 
 TEST_F(OnScreen, NoLineOfAMessageHoldsALonelyMark) {

@@ -1,7 +1,23 @@
 """The windows stand where the game puts them, whatever the player and the desktop do to them."""
 import unittest
 
-from machine import Machine, wait_until
+from machine import BUILD, Machine, wait_until
+
+# All open lots are bought and a hotel is built, so that the next one takes a loan.
+SPENT = ["clock 12:00:37", "click GST.CMDSTART"]
+for lot in (18, 19, 34, 37, 46):
+    SPENT += [f"click GFM.Image1({lot})", "click GFM.CMDBUY"]
+for lot in (0, 18):
+    SPENT += [f"click GFM.Image1({lot})", "click GFM.CMDBUILD", "click GFM.HILTON"]
+    SPENT += ["click GFM.BUILDIT", "click HS.CMDAN1(0)"]
+SPENT[-2:] = ["keep spent.zelvo"]
+
+
+def is_in_front(machine, window):
+    """Active, and above the others."""
+    stack = machine.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()
+    active = machine.run("xdotool", "getactivewindow", check=False).strip()
+    return active == window and int(stack[-1], 16) == int(window)
 
 
 class Windows(unittest.TestCase):
@@ -15,12 +31,8 @@ class Windows(unittest.TestCase):
                 machine.run("wmctrl", "-i", "-a", window)
 
             def wait_for(window):
-                """In front: active, and above the others."""
-                def is_in_front():
-                    stack = machine.run("xprop", "-root", "_NET_CLIENT_LIST_STACKING").split()
-                    active = machine.run("xdotool", "getactivewindow", check=False).strip()
-                    return active == window and int(stack[-1], 16) == int(window)
-                wait_until(is_in_front, f"{window} in front of {game.windows()}")
+                wait_until(lambda: is_in_front(machine, window),
+                           f"{window} in front of {game.windows()}")
 
             for _ in range(3):
                 machine.run("xdotool", "windowminimize", board)
@@ -50,6 +62,36 @@ class Windows(unittest.TestCase):
                 wait_for(setup)
                 game.click("ICF.cmdexit", setup)
                 wait_for(start)
+
+    def test_what_a_message_box_or_dialog_leaves_is_the_board_as_it_was(self):
+        with Machine(size="1024x768") as machine:
+            (machine.folder / "script").write_text("\n".join(SPENT))
+            machine.run(str(BUILD / "zelvo-headless"), "script")
+            machine.run("xdotool", "mousemove", "0", "0")  # the title tells what lies under it
+            game = machine.launch("spent.zelvo")
+            board = game.window("Board Game")
+
+            def wait_for(window, title):
+                wait_until(lambda: is_in_front(machine, window), f"{title} in front")
+                return window
+            machine.run("wmctrl", "-i", "-r", board, "-b", "add,maximized_vert,maximized_horz")
+            wait_until(lambda: game.geometry(board)[2] == 1024, "a maximised board")
+            place = game.settled(board)
+            for answer in ("Escape", "Return"):
+                game.click("GFM.BUILDIT", board)
+                wait_for(game.window("Bank Loan"), "the question")
+                game.key(answer)
+                if answer == "Return":
+                    bank = wait_for(game.window("The Bank"), "the bank")
+                    left, top, width, height = game.settled(bank)
+                    self.assertTrue(left >= 0 and top > 0 and left + width <= 1024
+                                    and top + height <= 768, "the bank lies on the screen")
+                    game.still_screen()  # the banker has made his offer
+                    game.key("Escape")
+                    wait_for(game.window("Bank Loan"), "the question once more")
+                    game.key("Escape")
+                wait_for(board, "the board")
+                self.assertEqual(game.geometry(board), place)
 
     def test_a_window_destroyed_by_others_comes_anew_and_the_last_one_ends_the_program(self):
         with Machine() as machine:

@@ -16,8 +16,9 @@ inline PictureId LotPicture(Game& g, int lot) { return g.GFM->Image1[lot].Pictur
 /// Puts an icon and its tag on a lot. A strike, a crash, a casino and a mall show their picture
 /// before they change the tag.
 inline void SetLot(Game& g, int lot, const Control& icon, std::string_view tag) {
-  g.GFM->Image1[lot].Picture = icon.Picture;
-  g.GFM->Image1[lot].Tag = tag;
+  Control& image = g.GFM->Image1[lot];
+  image.Picture = icon.Picture;
+  image.Tag = tag;
 }
 
 /// The four neighbours of a lot, in the order in which every rule visits them. They go by index

@@ -2,9 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
 #include <nlohmann/json.hpp>
 #include <random>
+
+#include "tests/play.h"
 
 namespace zelvo::test {
 namespace {
@@ -13,46 +14,14 @@ using Json = nlohmann::json;
 
 /// Texts of pieces that have a way of going wrong beside one another.
 std::string AwkwardText(std::mt19937& random) {
-  static constexpr std::array<const char*, 40> pieces = {"a",
-                                                         " ",
-                                                         "~",
-                                                         "\x7f",
-                                                         "\"",
-                                                         "\\",
-                                                         "/",
-                                                         "\n",
-                                                         "\x01",
-                                                         "\x1f",
-                                                         "\\u",
-                                                         "\\n",
-                                                         "\\/",
-                                                         "\\q",
-                                                         "00e9",
-                                                         "d83d",
-                                                         "\\ud83d\\ude00",
-                                                         "\\udc00",
-                                                         "\\ud800",
-                                                         "\\u0000",
-                                                         "é",
-                                                         "€",
-                                                         "\xc3",
-                                                         "\xe2",
-                                                         "\x82",
-                                                         "\xac",
-                                                         "\xf0",
-                                                         "\x9f",
-                                                         "\x8f",
-                                                         "\xbf",
-                                                         "\xc0",
-                                                         "\xed",
-                                                         "\xa0",
-                                                         "\xe0",
-                                                         "\x80",
-                                                         "\xf4",
-                                                         "\x90",
-                                                         "\xf5",
-                                                         "\xff",
-                                                         "\xf0\x9f\x98\x80"};
+  static const std::vector<std::string> pieces = [] {
+    auto all = Pieces(
+        "a|~|\x7f|\"|\\|/|\x01|\x1f|\\u|\\n|\\/|\\q|00e9|d83d|\\ud83d\\ude00|\\udc00|\\ud800|"
+        "\\u0000|\xc3\xa9|\xe2\x82\xac|\xc3|\xe2|\x82|\xac|\xf0|\x9f|\x8f|\xbf|\xc0|\xed|\xa0|"
+        "\xe0|\x80|\xf4|\x90|\xf5|\xff|\xf0\x9f\x98\x80");
+    all.insert(all.end(), {" ", "\n"});
+    return all;
+  }();
   std::string text;
   for (auto left = random() % 7; left > 0; --left) text += pieces[random() % pieces.size()];
   return text;

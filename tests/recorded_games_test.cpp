@@ -81,7 +81,8 @@ class Recorder : public Scripted {
     return true;
   }
   void Print(const std::string& line) override {
-    if (recording_ || line.find("\"error\"") != std::string::npos) recorded += line + "\n";
+    if (line.find("\"error\"") != std::string::npos) recording_ = true;
+    if (recording_) recorded += line + "\n";
   }
   void YieldUntilEvent() override {
     NoteChanges("...\n");

@@ -57,7 +57,7 @@ TEST(Windows, AreWellFormedEachAndAll) {
       const std::string name = std::string(window->name()) + "." + std::string(control->name());
       SCOPED_TRACE(name);
       EXPECT_TRUE(lower.contains(control->container()));
-      lower.insert(control);
+      EXPECT_TRUE(lower.insert(control).second) << "placed twice";
       CheckControl(*control, name);
       owned.insert(control->design().picture);
     }

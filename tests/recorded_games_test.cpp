@@ -72,12 +72,16 @@ class Recorder : public Scripted {
 
  private:
   bool NextCommand(std::string& command) override {
-    NoteChanges("");
-    if (next_ == script_.size()) return false;
-    command = script_[next_];
-    recording_ = next_++ >= unrecorded_;
-    if (recording_) recorded += "> " + command + "\n";
-    if (command.starts_with("set ") || command.starts_with("clock ")) recording_ = false;
+    const bool isOver = next_ == script_.size();
+    const std::string next = isOver ? "" : script_[next_];
+    const bool isRecorded = next_ >= unrecorded_;
+    const bool brings = isRecorded && !next.starts_with("set ") && !next.starts_with("clock ");
+    if (recording_ || brings) NoteChanges("");
+    if (isOver) return false;
+    command = next;
+    ++next_;
+    recording_ = brings;
+    if (isRecorded) recorded += "> " + command + "\n";
     return true;
   }
   void Print(const std::string& line) override {
@@ -85,7 +89,7 @@ class Recorder : public Scripted {
     if (recording_) recorded += line + "\n";
   }
   void YieldUntilEvent() override {
-    NoteChanges("...\n");
+    if (recording_) NoteChanges("...\n");
     Scripted::YieldUntilEvent();
   }
   void NoteChanges(const std::string& heading) {

@@ -52,6 +52,20 @@ TEST_F(Input, AClickThatCannotBeTakenIsDropped) {
   EXPECT_EQ(game.CurLot, other);
 }
 
+TEST_F(Input, AClickOnTheGroundOfAWindowIsTheWindows) {
+  StartGame();
+  Exhibit(game.ABT);
+  WindowView& about = View(game.ABT);
+  const QPoint ground(3, 3);
+  QTest::mouseClick(&about, Qt::RightButton, {}, ground);
+  QTest::mouseRelease(&about, Qt::LeftButton, {}, ground);
+  QTest::mousePress(&about, Qt::LeftButton, {}, ground);
+  QTest::mouseRelease(&about, Qt::LeftButton, {}, {-5, -5});
+  EXPECT_TRUE(game.ABT->IsShown());
+  QTest::mouseClick(&about, Qt::LeftButton, {}, ground);
+  EXPECT_FALSE(game.ABT->IsShown());
+}
+
 TEST_F(Input, TheSecondClickOfADoubleClickDoesNotReachWhatWasHiddenSinceTheFirst) {
   StartGame();
   const auto doubleClick = [this](Control& control) {

@@ -90,6 +90,23 @@ TEST_F(Keyboard, TheFocusNeverVanishesInATurn) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return Widget(game.GFM->CMDGO).hasFocus(); }));
 }
 
+TEST_F(Keyboard, AKeyIsTakenOnceAndOnlyWithItsOwnModifiers) {
+  StartGame();
+  using Press = std::tuple<Qt::Key, Qt::KeyboardModifiers, bool>;
+  for (const auto& [key, modifiers, held] :
+       {Press{Qt::Key_Return, Qt::ControlModifier, true},
+        Press{Qt::Key_Enter, Qt::ControlModifier | Qt::ShiftModifier, false},
+        Press{Qt::Key_Return, Qt::AltModifier, false}, Press{Qt::Key_F1, Qt::ShiftModifier, false},
+        Press{Qt::Key_Escape, Qt::NoModifier, false}, Press{Qt::Key_F1, Qt::NoModifier, true}}) {
+    QKeyEvent press(QEvent::KeyPress, key, modifiers, "", held);
+    QApplication::sendEvent(&View(game.GFM), &press);
+    EXPECT_TRUE(game.TurnNo == 0 && !game.ICF->IsShown() && game.GFM->IsShown()) << key;
+  }
+  QKeyEvent keypad(QEvent::KeyPress, Qt::Key_Enter, Qt::ControlModifier | Qt::KeypadModifier);
+  QApplication::sendEvent(&View(game.GFM), &keypad);
+  EXPECT_EQ(game.TurnNo, 1);
+}
+
 TEST_F(Keyboard, EscapeIsTheWayOutWhereTheGameWantsNoAnswer) {
   StartGame();
   for (Window* window : game.Windows()) {

@@ -12,6 +12,7 @@
 #include <functional>
 #include <vector>
 
+#include "faces/game_file.h"
 #include "faces/headless/state.h"
 #include "faces/kept_game.h"
 #include "tests/desktop/player.h"
@@ -237,8 +238,31 @@ TEST_F(KeptOnDesktop, WhatIsNoKeptGameIsRefusedAndStaysAsItIs) {
   }
   EXPECT_EQ(session.GoOn("/no/such"), "/no/such cannot be read: No such file or directory.");
   EXPECT_EQ(session.Keep("/no/such"), "/no/such cannot be written: No such file or directory.");
+  KeptFile others;
+  ASSERT_EQ(others.Replace(path, "zelvo-game 1\n"), 0);
+  const std::string taken = ": another program keeps its game there.";
+  EXPECT_EQ(session.GoOn(path), path + " cannot be gone on with" + taken);
+  EXPECT_EQ(session.Keep(path), path + " cannot be written" + taken);
   Run({[] {}});
   EXPECT_EQ(State(), before);
+}
+
+TEST_F(KeptOnDesktop, AFileThatCanNoLongerBeWrittenIsToldOfAndTheGameGoesOn) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  QFile::remove(file);
+  Run({Press(game.GFM.Untouched().Image1[0])});
+  EXPECT_EQ(InFile().toStdString(), List()) << "written anew where it was";
+  folder.remove();
+  Press(game.GFM.Untouched().Image1[5])();
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(box, nullptr);
+  EXPECT_EQ(box->text(), file +
+                             " cannot be written, so the game is no longer kept there: No such "
+                             "file or directory.");
+  box->accept();
+  Run({Press(game.GFM.Untouched().Image1[7])});
+  EXPECT_EQ(game.CurLot, 7);
 }
 
 TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) {

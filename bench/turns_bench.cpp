@@ -103,7 +103,10 @@ void BoardEvents(benchmark::State& state, const char* tag, Control ICFWindow::*i
   Game& g = player.game();
   StartGame(g);
   for ([[maybe_unused]] auto _ : state) {
-    for (int lot = 0; lot < lotCount; ++lot) SetLot(g, lot, g.ICF->*icon, tag);
+    for (Control& lot : g.GFM->Image1) {
+      lot.Picture = (g.ICF->*icon).Picture;
+      lot.Tag = tag;
+    }
     BoardEvent(g);
   }
   state.SetItemsProcessed(state.iterations());

@@ -1,5 +1,6 @@
 #include "events/board_event.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "events/casino.h"
@@ -203,13 +204,16 @@ Outcome DrawnEvent::OpenPath() {
 
 /// Takes the first condemned lot from `CurLot` upward off the list; there may be none.
 Outcome DrawnEvent::Rezone() {
-  for (int lot = g.CurLot; lot < lotCount; ++lot) {
-    if (LotPicture(g, lot) != g.ICF->LDIRT.Picture) continue;
+  auto& lots = g.GFM->Image1;
+  const auto condemned = std::find_if(
+      lots.begin() + g.CurLot, lots.end(),
+      [dirt = g.ICF->LDIRT.Picture](const Control& lot) { return lot.Picture == dirt; });
+  if (condemned != lots.end()) {
+    const int lot = condemned->index();
     SetLot(g, lot, g.ICF->LUND, "U");
     g.GFM->PSHOW.Caption = "Condemmed Lot # " + NumberText(lot) + " has been rezoned";
     --g.CondemnedLots;
     g.ValueSign = "+";
-    break;
   }
   g.CurLot = savedLot;
   return Outcome::EndOfEvent;

@@ -14,6 +14,7 @@ struct Shown {
   bool enabled = true;
   bool value = false;
   bool visible = false;  ///< and all panels around it as well
+  bool inHand = false;
 
   static Shown Of(const Control& control);
   /// The same as a comparison with `Of`, but copies no text.

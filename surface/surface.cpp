@@ -59,6 +59,7 @@ void Surface::Show(Window& window) {
   Load(window);
   const bool wasShown = window.IsShown();
   window.state_ = WindowState::Shown;
+  if (!wasShown) window.inHand = nullptr;
   if (!wasShown && atWork_ != &window) {
     window.opener_ = atWork_ != nullptr || stack_.empty() ? atWork_ : stack_.back();
   }
@@ -120,6 +121,7 @@ void Surface::Yield() {
 void Surface::YieldUntilEvent() {
   if (ended_) return;
   const Wait wait(*this);
+  if (!stack_.empty()) stack_.back()->inHand = nullptr;
   platform_.YieldUntilEvent();
 }
 
@@ -189,6 +191,8 @@ bool Surface::Click(Control& control) {
   if (control.kind() == Kind::Option) control.SetValue(true);
   if (control.kind() == Kind::CheckBox) control.SetValue(!control.Value());
   Raise(control.window(), control.handlers.click, control);
+  const bool canBeHeld = control.kind() == Kind::Image && control.index() != Control::noIndex;
+  if (canBeHeld) control.window().inHand = &control;
   return true;
 }
 

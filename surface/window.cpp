@@ -39,6 +39,7 @@ void Window::Reset() {
   Caption = design_.title;
   extent = Extent::Normal;
   keepsClearOf = nullptr;
+  inHand = nullptr;
   for (Control* control : controls_) control->Reset();
 }
 

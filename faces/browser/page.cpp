@@ -23,6 +23,7 @@ std::string AsJson(int index, const Control& control, const Shown& shown) {
   json.append(",\"enabled\":").append(Bool(shown.enabled));
   json.append(",\"value\":").append(Bool(shown.value));
   json.append(",\"visible\":").append(Bool(shown.visible));
+  json.append(",\"inHand\":").append(Bool(shown.inHand));
   return json + '}';
 }
 
@@ -133,19 +134,6 @@ void Page::SetPointer(MousePointer pointer) {
 void Page::Focus(const Control& control) {
   SyncControls();  // it may just have come up
   Tell("focus", Number(PlaceOf(control)));
-}
-
-void Page::TakeInHand(const Control& control) {
-  const bool held = control.kind() == Kind::Image && control.index() != Control::noIndex;
-  if (!held || inHand_ == &control) return;
-  inHand_ = &control;
-  Tell("inHand", Number(PlaceOf(control)));
-}
-
-void Page::EmptyHand() {
-  if (inHand_ == nullptr) return;
-  inHand_ = nullptr;
-  Tell("inHand", "-1");
 }
 
 void Page::Tell(std::string_view name, std::string_view json) {

@@ -39,10 +39,6 @@ class Page {
   void SetPointer(MousePointer pointer);
   /// Gives a control the keyboard's focus.
   void Focus(const Control& control);
-  /// The player has clicked a control: it is in hand, if it is a picture of an array.
-  void TakeInHand(const Control& control);
-  /// The player has nothing in hand.
-  void EmptyHand();
 
  private:
   struct Drawn {
@@ -67,8 +63,7 @@ class Page {
   std::vector<Window*> stack_;         // of open windows, as last told
   std::vector<std::string> messages_;  // open ones as JSON, innermost last
   std::string waiting_;
-  std::string can_;  // which commands, as last told
-  const Control* inHand_ = nullptr;
+  std::string can_;      // which commands, as last told
   std::string changes_;  // members of a JSON object that the page has still to be told
 };
 

@@ -23,7 +23,6 @@ void PagePlatform::Attach(Surface& surface) {
   timers_ = {};
   passedUntil_ = host::ZelvoNow();
   if (!page_) page_.emplace(surface);
-  page_->EmptyHand();
 }
 
 // Events.
@@ -37,11 +36,7 @@ void PagePlatform::Yield() {
   RunPending();
 }
 
-void PagePlatform::YieldUntilEvent() {
-  // The game is showing something: the player has nothing in hand meanwhile.
-  page_->EmptyHand();
-  WaitForEvent("");
-}
+void PagePlatform::YieldUntilEvent() { WaitForEvent(""); }
 
 void PagePlatform::RunModal(Window& window) {
   while (window.IsShown() && !surface_->HasEnded()) WaitForEvent(Waiting());
@@ -106,9 +101,7 @@ void PagePlatform::Take(std::string_view input) {
   }
   std::string error;
   const auto deed = ReadDeed(*surface_, verb, rest, error);
-  if (!deed || !surface_->Take(*deed)) return;
-  const bool clicked = deed->kind == Deed::Kind::Click && deed->control != nullptr;
-  if (clicked) page_->TakeInHand(*deed->control);
+  if (deed) surface_->Take(*deed);
 }
 
 std::string_view PagePlatform::Waiting() {

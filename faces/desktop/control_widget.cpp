@@ -69,12 +69,6 @@ bool ControlWidget::IsFocusOfItsWindow() const {
   return focused != nullptr && (focused == this || isAncestorOf(focused));
 }
 
-void ControlWidget::SetInHand(bool inHand) {
-  if (inHand_ == inHand) return;
-  inHand_ = inHand;
-  update();
-}
-
 // What the widget shows.
 
 void ControlWidget::TakeOver() {
@@ -185,7 +179,7 @@ void ControlWidget::paintEvent(QPaintEvent* /*event*/) {
   if (!isEnabled()) painter.setOpacity(0.45);
   DrawBody(painter);
   painter.setRenderHint(QPainter::Antialiasing, false);
-  if (inHand_) DrawInHand(painter, rect(), unit_);
+  if (shown_.inHand) DrawInHand(painter, rect(), unit_);
   if (hasFocus() && view_.desk().usesKeys) DrawFocus(painter, rect(), unit_);
 }
 

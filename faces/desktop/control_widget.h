@@ -38,8 +38,7 @@ class ControlWidget : public QWidget {
   const Group* WalkedGroup() const;
   /// True if the control has the keyboard whenever its window is active.
   bool IsFocusOfItsWindow() const;
-  void SetInHand(bool inHand);
-  bool IsInHand() const { return inHand_; }
+  bool IsInHand() const { return shown_.inHand; }
   /// True if the control was hidden at some time since that press of the mouse (see Desk).
   bool CameUpSince(int press) const { return cameUpAt_ >= press; }
   /// The same as a click of the mouse.
@@ -83,7 +82,6 @@ class ControlWidget : public QWidget {
   bool pressed_ = false;
   int firstPress_ = 0;  // of a double click whose second press was the last one here; else 0
   int cameUpAt_ = 0;    // the press after which the control was last shown anew
-  bool inHand_ = false;
   QBasicTimer gone_;
   std::optional<FittedText> text_;
   QPlainTextEdit* editor_ = nullptr;  // of a text box, a child

@@ -150,7 +150,6 @@ void DesktopPlatform::Detach() {
   heldTicks_.clear();
   QCoreApplication::removePostedEvents(this, QEvent::User);
   for (const auto& [control, timer] : timers_) timer->stop();
-  for (WindowView* view : open_) view->ClearMark();
   followed_ = -1;
 }
 
@@ -237,8 +236,6 @@ void DesktopPlatform::Yield() {
 
 void DesktopPlatform::YieldUntilEvent() {
   Sync();
-  // The game is showing something: the player has nothing in hand on that window meanwhile.
-  if (Front() != nullptr) Front()->ClearMark();
   ProcessEvents(QEventLoop::WaitForMoreEvents);
 }
 

@@ -131,7 +131,6 @@ void WindowView::Open(const WindowView* opener) {
   opening_ = true;
   // The window may have been unloaded while it was maximised.
   if (extent_ != window_.extent) ApplyExtent();
-  ClearMark();
   if (opener == nullptr) {
     PlaceOnScreen();
   } else if (IsDialog()) {
@@ -344,21 +343,8 @@ void WindowView::Click(ControlWidget& widget, int first) {
   DeliverClick([this, &widget, first](Surface& surface) {
     // Who clicks twice has not seen what came up in between, such as the button that ends the turn.
     if (first != 0 && widget.CameUpSince(first)) return;
-    if (surface.Click(widget.control())) Mark(widget);
+    surface.Click(widget.control());
   });
-}
-
-/// The picture of an array that was clicked last is the one in hand.
-void WindowView::Mark(ControlWidget& widget) {
-  const bool picture = widget.control().kind() == Kind::Image;
-  if (!picture || widget.control().index() == Control::noIndex) return;
-  for (ControlWidget* other : widgets_) {
-    if (other->control().name() == widget.control().name()) other->SetInHand(other == &widget);
-  }
-}
-
-void WindowView::ClearMark() {
-  for (ControlWidget* widget : widgets_) widget->SetInHand(false);
 }
 
 void WindowView::Hover(ControlWidget& widget) {

@@ -59,7 +59,6 @@ class WindowView : public QWidget {
   void FocusCame(ControlWidget& widget, Qt::FocusReason reason);
   FocusPath& focusPath() { return focusPath_; }
   /// Takes the mark off what the player clicked last.
-  void ClearMark();
   void FocusOn(const Control& control);
   /// The player has turned from the mouse to the keyboard or back.
   void ShowFocus();
@@ -90,7 +89,6 @@ class WindowView : public QWidget {
   bool MustStayMinimised() const;
   void TellSize();
   void DeliverClick(const std::function<void(Surface&)>& click);
-  void Mark(ControlWidget& widget);
   bool IsSpeechKey(int key);
   void PressByKey(Key key);
 

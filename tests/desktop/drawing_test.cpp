@@ -183,9 +183,9 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
       looks.push_back(look());
       return std::count(looks.begin(), looks.end(), looks.back()) == 1;
     };
-    widget.SetInHand(true);
+    control->window().inHand = control;
     EXPECT_TRUE(isNew());
-    widget.SetInHand(false);
+    control->window().inHand = nullptr;
     widget.setAttribute(Qt::WA_UnderMouse);
     EXPECT_EQ(isNew(), widget.IsClickable());
     QTest::mousePress(&widget, Qt::LeftButton);

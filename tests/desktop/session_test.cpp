@@ -207,6 +207,10 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
   const QJsonObject other = BelowTitle(State());
   Run({Keys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier)});
   EXPECT_EQ(BelowTitle(State()), other);
+  // What is in hand is part of it.
+  Run({Press(game.GFM.Untouched().Image1[5]), Keys(Qt::Key_Z)});
+  EXPECT_TRUE(Widget(game.GFM->Image1[0]).IsInHand());
+  EXPECT_FALSE(Widget(game.GFM->Image1[5]).IsInHand());
 }
 
 TEST_F(KeptOnDesktop, AFileIsGoneOnWithInTheMiddleOfABlinkAndItsTornLineIsDropped) {

@@ -36,7 +36,6 @@ export class View {
   #ask = () => {};
   #message = null;  // the dialog of the open message box
   #said = null;  // what was said last
-  #inHand = null;
   #left = null;  // went away with the focus
   #passedTo = null;  // and this one got it
   #tight = new Set();  // elements whose text is still to be fitted
@@ -88,7 +87,6 @@ export class View {
     for (const told of change.controls ?? []) this.#syncControl(told);
     for (const window of opened) this.#come(window);
     if ('message' in change) this.#syncMessage(change.message);
-    if ('inHand' in change) this.#syncInHand(change.inHand);
     if ('said' in change) this.#say(change.said);
     if ('busy' in change) document.body.classList.toggle('busy', change.busy);
     if ('focus' in change) this.#controls[change.focus]?.element.focus();
@@ -388,6 +386,7 @@ export class View {
     }
     const marked = ['option', 'checkbox'].includes(design.kind);
     if (changed('value') && marked) element.setAttribute('aria-checked', told.value);
+    if (changed('inHand')) element.classList.toggle('in-hand', told.inHand);
     if (changed('visible')) this.#becomeVisible(control);
     if (changed('caption') || changed('visible')) this.#tight.add(element);
     if (control.listens) this.#rove(control);
@@ -432,12 +431,6 @@ export class View {
     if (this.#left === control) element.focus();
   }
 
-  #syncInHand(at) {
-    this.#inHand?.element.classList.remove('in-hand');
-    this.#inHand = this.#controls[at] ?? null;
-    this.#inHand?.element.classList.add('in-hand');
-  }
-
   // The keyboard's way.
 
   #takesFocus({ listens, element }) {
@@ -453,8 +446,9 @@ export class View {
   /// back while the focus is still there, as the button that ends the turn does, it gets it again.
   #leave(control) {
     if (document.activeElement !== control.element) return;
-    const inHand = this.#inHand !== null && this.#takesFocus(this.#inHand) ? this.#inHand : null;
-    const stops = this.#stops(this.#windows[control.design.window]);
+    const window = this.#windows[control.design.window];
+    const inHand = window.controls.find((other) => other.shows?.inHand && this.#takesFocus(other));
+    const stops = this.#stops(window);
     this.#passedTo = inHand ?? stops.find((other) => other !== control) ?? null;
     this.#passedTo?.element.focus();
     this.#left = control;

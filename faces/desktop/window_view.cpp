@@ -340,7 +340,7 @@ void WindowView::DeliverClick(const std::function<void(Surface&)>& click) {
 }
 
 void WindowView::Click(ControlWidget& widget, int first) {
-  DeliverClick([this, &widget, first](Surface& surface) {
+  DeliverClick([&widget, first](Surface& surface) {
     // Who clicks twice has not seen what came up in between, such as the button that ends the turn.
     if (first != 0 && widget.CameUpSince(first)) return;
     surface.Click(widget.control());

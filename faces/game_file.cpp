@@ -64,14 +64,17 @@ mode_t ModeOf(const std::string& path) {
   return 0666 & ~mask;
 }
 
-bool IsRegularOrNew(const std::string& path) {
+/// A folder holds no game, and a pipe or a device could take for ever. What is not there is no
+/// error yet.
+int ErrorIfNoFile(const std::string& path) {
   struct stat facts {};
-  return stat(path.c_str(), &facts) != 0 || S_ISREG(facts.st_mode);
+  if (stat(path.c_str(), &facts) != 0 || S_ISREG(facts.st_mode)) return 0;
+  return S_ISDIR(facts.st_mode) ? EISDIR : ENOTSUP;
 }
 
 /// Writes a text beside a file and moves it into its place. `file` is left open on it.
 int WriteAndMove(const std::string& path, std::string_view text, int& file) {
-  if (!IsRegularOrNew(path)) return EISDIR;
+  if (const int error = ErrorIfNoFile(path)) return error;
   const std::string target = TargetOf(path);
   // Somebody else's file that may not be written is not to be replaced either.
   if (access(target.c_str(), F_OK) == 0 && access(target.c_str(), W_OK) != 0) return errno;
@@ -105,6 +108,7 @@ int ErrorIfHeld(const std::string& path) {
 
 FileText ReadFile(const std::string& path) {
   FileText read;
+  if (const int error = ErrorIfNoFile(path)) return {"", error};
   const int file = open(path.c_str(), O_RDONLY | O_CLOEXEC);
   if (file == -1) return {"", errno};
   std::array<char, 65'536> piece{};
@@ -127,15 +131,17 @@ int ReplaceFile(const std::string& path, std::string_view text) {
 }
 
 int KeptFile::Open(const std::string& path, std::size_t bytes) {
-  Close();
+  const bool isOurs = IsAt(path);
   const int file = open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC);
   if (file == -1) return errno;
+  if (isOurs) Close();
   int error = Try([file] { return flock(file, LOCK_EX | LOCK_NB); });
   if (error == 0) error = Try([&] { return ftruncate(file, static_cast<off_t>(bytes)); });
   if (error != 0) {
     close(file);
     return error;
   }
+  Close();
   file_ = file;
   size_ = bytes;
   path_ = path;
@@ -143,8 +149,7 @@ int KeptFile::Open(const std::string& path, std::size_t bytes) {
 }
 
 int KeptFile::Replace(const std::string& path, std::string_view text) {
-  const bool isOurs = IsOpen() && IsInPlace() && TargetOf(path) == TargetOf(path_);
-  if (!isOurs) {
+  if (!IsAt(path)) {
     if (const int error = ErrorIfHeld(path)) return error;
   }
   int file = -1;
@@ -171,6 +176,10 @@ int KeptFile::Append(std::string_view text, bool lasting) {
 
 void KeptFile::Close() {
   if (file_ != -1) close(std::exchange(file_, -1));
+}
+
+bool KeptFile::IsAt(const std::string& path) const {
+  return IsOpen() && IsInPlace() && TargetOf(path) == TargetOf(path_);
 }
 
 bool KeptFile::IsInPlace() const {

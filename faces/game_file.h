@@ -29,7 +29,8 @@ class KeptFile {
   // Each returns the system's number of the error, or 0. EWOULDBLOCK tells that another program
   // keeps its game there.
 
-  /// Goes on with a file of which the first so many bytes count; the rest is cut off.
+  /// Goes on with a file of which the first so many bytes count; the rest is cut off. After an
+  /// error the file that was open before, if another one, still is.
   int Open(const std::string& path, std::size_t bytes);
   /// Starts a file, in the place of one that is there, or puts another text into this one.
   int Replace(const std::string& path, std::string_view text);
@@ -44,6 +45,8 @@ class KeptFile {
   bool IsInPlace() const;
 
  private:
+  bool IsAt(const std::string& path) const;
+
   int file_ = -1;
   std::size_t size_ = 0;
   std::string path_;

@@ -200,7 +200,7 @@ TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
   EXPECT_EQ(last("keep\n")["error"], "keep needs the name of a file");
   EXPECT_EQ(last("keep /no/such\n")["error"],
             "/no/such cannot be written: No such file or directory");
-  EXPECT_EQ(last("keep /dev/full\n")["error"], "/dev/full cannot be written: Is a directory");
+  EXPECT_EQ(last("keep /dev/full\n")["error"], "/dev/full cannot be written: Operation not supported");
   EXPECT_EQ(last("set Word \"x\"\n" + keep)["error"],
             "something was set, which no player can do: there is no list of such a game");
   EXPECT_EQ(ReadFile(file).text, "old");
@@ -229,6 +229,12 @@ TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
   EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK);
   EXPECT_EQ(other.Replace(file, "other"), EWOULDBLOCK);
   EXPECT_EQ(ReplaceFile(file, "other"), EWOULDBLOCK);
+  const std::string own = folder.File("own.zelvo");
+  EXPECT_EQ(other.Replace(own, "one\n"), 0);
+  EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK);
+  EXPECT_EQ(other.Append("two\n", false), 0) << "it still keeps its own";
+  EXPECT_EQ(other.Open(own, 4), 0);
+  EXPECT_EQ(ReadFile(own).text, "one\n");
   EXPECT_EQ(text(), "one\ntwo\n");
   EXPECT_EQ(kept.Replace(file, "three\nto"), 0);
   EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK) << "the new file is held like the old one";
@@ -248,8 +254,11 @@ TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
   std::filesystem::remove(file);
   EXPECT_FALSE(other.IsInPlace());
   // A pipe, a device or a folder is no place to keep a game.
-  for (const std::string& place : {folder.path, std::string("/dev/full")}) {
+  const std::string pipe = folder.File("pipe");
+  EXPECT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  for (const std::string& place : {folder.path, pipe, std::string("/dev/zero")}) {
     EXPECT_NE(kept.Replace(place, "text"), 0) << place;
+    EXPECT_NE(ReadFile(place).error, 0) << place;
   }
 }
 

@@ -148,6 +148,7 @@ std::string Session::GoOn(const std::string& path) {
   if (!kept.error.empty()) return CannotBe(path, "gone on with", kept.error);
   const int notWritten = file_.Open(path, kept.wholeBytes);
   if (notWritten == EWOULDBLOCK) return CannotBe(path, "gone on with", Reason(notWritten));
+  if (notWritten != 0) file_.Close();
   if (kept.ends) kept.list = WithoutTheEnd(std::move(kept.list));
   history_.Forget();
   Replace(std::move(kept.list), !kept.ends);

@@ -200,7 +200,8 @@ TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
   EXPECT_EQ(last("keep\n")["error"], "keep needs the name of a file");
   EXPECT_EQ(last("keep /no/such\n")["error"],
             "/no/such cannot be written: No such file or directory");
-  EXPECT_EQ(last("keep /dev/full\n")["error"], "/dev/full cannot be written: Operation not supported");
+  EXPECT_EQ(last("keep /dev/full\n")["error"],
+            "/dev/full cannot be written: Operation not supported");
   EXPECT_EQ(last("set Word \"x\"\n" + keep)["error"],
             "something was set, which no player can do: there is no list of such a game");
   EXPECT_EQ(ReadFile(file).text, "old");

@@ -261,6 +261,10 @@ TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
     EXPECT_NE(kept.Replace(place, "text"), 0) << place;
     EXPECT_NE(ReadFile(place).error, 0) << place;
   }
+  EXPECT_EQ(ReadFile(folder.path).error, EISDIR);
+  const std::string longText(200'000, 'x');
+  EXPECT_EQ(ReplaceFile(file, longText), 0);
+  EXPECT_EQ(text(), longText);
 }
 
 /// A machine that hands in a click where a machine may not.

@@ -7,7 +7,6 @@
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 

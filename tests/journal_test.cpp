@@ -217,8 +217,13 @@ TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 1);
 }
 
+std::ptrdiff_t OpenHandles() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+}
+
 TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
   const Folder folder;
+  const auto handles = OpenHandles();
   const std::string file = folder.File("a.zelvo");
   const auto text = [&] { return ReadFile(file).text; };
   KeptFile kept;
@@ -265,6 +270,8 @@ TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
   const std::string longText(200'000, 'x');
   EXPECT_EQ(ReplaceFile(file, longText), 0);
   EXPECT_EQ(text(), longText);
+  other.Close();
+  EXPECT_EQ(OpenHandles(), handles);
 }
 
 /// A machine that hands in a click where a machine may not.

@@ -289,6 +289,33 @@ TEST(WindowLife, TheFrontIsWhereTheGamePutsIt) {
   EXPECT_EQ(stack(), "GST ");
 }
 
+TEST(AutoPlayer, DoesNoHarmUnlessItIsTold) {
+  AutoPlayer player;
+  EXPECT_EQ(player.MessageBox("?", MessageStyle::YesNoQuestion, ""), Answer::No);
+  EXPECT_EQ(player.MessageBox("!", MessageStyle::OkExclamation, ""), Answer::Ok);
+  player.onMessage = [](const std::string& text, MessageStyle) {
+    return text == "?" ? Answer::Yes : Answer::No;
+  };
+  EXPECT_EQ(player.MessageBox("?", MessageStyle::YesNoQuestion, ""), Answer::Yes);
+  std::string heard;
+  player.onSound = [&](const std::string& path, bool waits) {
+    heard += path + (waits ? "! " : " ");
+  };
+  Game& game = player.game();
+  game.Start();
+  game.Click(game.GST->CMDSTART);
+  EXPECT_EQ(heard, ".\\ZELVO.WAV! .\\STARTP.WAV! ");
+  player.inModal = Dismiss;
+  for (Window* window : game.Windows()) {
+    // Two windows are no dialogs, and tax time closes itself.
+    if (window->design().titleBar == TitleBar::Sizable || window->name() == "TT") continue;
+    window->handlers.activate = nullptr;
+    game.ShowModal(*window);
+    EXPECT_FALSE(window->IsShown()) << window->name();
+  }
+  EXPECT_EQ(game.PlayerLoan, Currency());
+}
+
 TEST(Surface, InATallArrangementEverythingLiesInTheWindowAndNothingOnAnotherThing) {
   AutoPlayer player;
   int tallWindows = 0;

@@ -3,8 +3,10 @@
 // builds what it needs.
 
 import { spawnSync } from 'node:child_process';
+import { readFileSync } from 'node:fs';
+import { join } from 'node:path';
 
-import { headless, start, waiting } from '../tests/browser/harness.mjs';
+import { root, start, waiting } from '../tests/browser/harness.mjs';
 
 const site = await start();
 const rows = [];
@@ -71,48 +73,50 @@ async function clickToPaint(clicks) {
   await site.closePages();
 }
 
-/// Plays commands in the page's program with nothing drawn; gives the milliseconds.
-async function playUndrawn({ commands, suspends }) {
-  const { load } = await import('./loader.js');
-  const inputs = [...commands, 'quit'];
-  const program = fetch(suspends ? 'zelvo.wasm' : 'zelvo-asyncify.wasm');
-  const none = () => {};
-  let next = 0;
-  const play = await load(program, suspends, (memory) => ({
-    wait: none, pause: none, playCue: none, design: none, show: none, print: none,
-    now: () => performance.now(), secondOfDay: () => 0, canPlay: () => 1,
-    takeInput: (start, room) => new TextEncoder()
-      .encodeInto(inputs[next++], new Uint8Array(memory().buffer, start, room)).written,
-  }));
-  const begun = performance.now();
-  await play(1);
-  return performance.now() - begun;
-}
-
-/// The same commands in the program for a terminal, in the page's two programs, and in the page as
-/// it is, which draws after each.
-async function turns(count) {
-  const turn = ['click GFM.CMDGO', 'click ML.CMD1(1)', 'click CHN.Image1(0)', 'click CHN.CMDOK',
-    'click SV.CMDOK', 'answer no'];
-  const script = (length) => ['click GST.CMDSTART', ...Array(length).fill(turn).flat()];
-  const begun = performance.now();
-  spawnSync(headless, { input: script(count).join('\n'), maxBuffer: 1 << 30 });
-  const native = (count / (performance.now() - begun)) * 1000;
-  tell('turns a second by script, native', native.toFixed(0));
+/// The same turns in the native program and in the page's two programs, as fast as each plays them
+/// at its best, with nothing around the rules.
+async function turns() {
+  const run = spawnSync(join(root, 'build/bench/zelvo-bench'), ['--benchmark_filter=^BuildingTurns$',
+    '--benchmark_min_time=0.02', '--benchmark_repetitions=60', '--benchmark_format=json']);
+  const native = Math.max(...JSON.parse(run.stdout).benchmarks
+    .filter((row) => row.run_type === 'iteration').map((row) => row.items_per_second));
+  tell('turns a second, native', native.toFixed(0));
   const page = await painted('?virtual');
-  for (const suspends of [true, false]) {
-    const took = await page.evaluate(playUndrawn, { commands: script(count), suspends });
-    const speed = (count / took) * 1000;
-    tell(`turns a second by script, ${suspends ? 'promise integration' : 'Asyncify'}, nothing drawn`,
+  for (const form of ['', '-asyncify']) {
+    const program = readFileSync(join(root, `build/browser-bench/zelvo-bench${form}.wasm`)).toString('base64');
+    const speed = await page.evaluate(playTurns, program);
+    tell(`turns a second, ${form === '' ? 'promise integration' : 'Asyncify'}`,
       `${speed.toFixed(0)}, ${(speed / native).toFixed(2)} of native`);
   }
-  const drawn = 100;
+  await site.closePages();
+}
+
+async function playTurns(base64) {
+  const bytes = Uint8Array.from(atob(base64), (each) => each.charCodeAt(0));
+  const host = new Proxy({}, { get: () => () => 0 });  // nothing of it is called
+  const { instance } = await WebAssembly.instantiate(bytes, { host });
+  instance.exports._initialize();
+  instance.exports.playTurns(5000);
+  let best = 0;
+  for (let i = 0; i < 200; ++i) {
+    const begun = performance.now();
+    instance.exports.playTurns(400);
+    best = Math.max(best, (400 / (performance.now() - begun)) * 1000);
+  }
+  return best;
+}
+
+/// With lines, and all that each command changes on the page.
+async function drawnTurns(count) {
+  const turn = ['click GFM.CMDGO', 'click ML.CMD1(1)', 'click CHN.Image1(0)', 'click CHN.CMDOK',
+    'click SV.CMDOK', 'answer no'];
+  const page = await painted('?virtual');
   const took = await page.evaluate(async (commands) => {
-    const start = performance.now();
+    const begun = performance.now();
     await Promise.all(commands.map((command) => window.zelvo.play(command)));
-    return performance.now() - start;
-  }, script(drawn));
-  tell('turns a second by script, all drawn', ((drawn / took) * 1000).toFixed(0));
+    return performance.now() - begun;
+  }, ['click GST.CMDSTART', ...Array(count).fill(turn).flat()]);
+  tell('turns a second by script, all drawn', ((count / took) * 1000).toFixed(0));
   await site.closePages();
 }
 
@@ -143,7 +147,8 @@ await weigh('');
 await weigh('&suspend=asyncify');
 await firstPaint(7);
 await clickToPaint(40);
-await turns(5000);
+await turns();
+await drawnTurns(100);
 await rest(8);
 await site.stop();
 console.log(`| what | measured |\n| --- | --- |\n${rows.join('\n')}`);

@@ -3,6 +3,7 @@
 #include <sstream>
 #include <string>
 
+#include "bench/turns.h"
 #include "events/board_event.h"
 #include "faces/headless/auto_player.h"
 #include "faces/headless/stream_game.h"
@@ -12,17 +13,6 @@
 namespace zelvo {
 namespace {
 
-/// Starts a game afresh; a game that was won stands at the start window.
-void StartGame(Game& g) {
-  if (!g.GST.Untouched().IsLoaded()) g.Start();
-  g.Click(g.GST->CMDSTART);
-}
-
-void EndTurn(Game& g) {
-  if (!g.GFM.Untouched().IsShown()) StartGame(g);
-  g.Click(g.GFM->CMDGO);
-}
-
 void IdleTurns(benchmark::State& state) {
   AutoPlayer player;
   player.inModal = Dismiss;
@@ -31,28 +21,6 @@ void IdleTurns(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(IdleTurns);
-
-/// Buys the first lot for sale and builds on it, insured.
-void BuyAndBuild(Game& g) {
-  for (int lot = 0; lot < lotCount; ++lot) {
-    const auto tag = LotTag(g, lot);
-    if (tag != "O" && tag != "D") continue;
-    g.Click(g.GFM->Image1[lot]);
-    g.Click(g.GFM->CMDBUY);
-    g.Click(g.GFM->CMDBUILD);
-    g.Click(g.GFM->QUALITY);
-    g.Click(g.GFM->BUILDIT);
-    return;
-  }
-}
-
-void Insure(Game& g) {
-  if (g.HS.Untouched().IsShown() && g.HS->CMDAN1[0].Visible) {
-    g.Click(g.HS->CMDAN1[0]);
-  } else {
-    Dismiss(g);
-  }
-}
 
 void BuildingTurns(benchmark::State& state) {
   AutoPlayer player;

@@ -10,5 +10,5 @@ package_packages=(dpkg-dev desktop-file-utils appstream lintian mandoc)
 machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio pulseaudio-utils dbus
   locales at-spi2-core python3-pyatspi)
 # For the page.
-page_packages=(clang cmake ninja-build lld binaryen wasi-libc python3 brotli librsvg2-bin
+page_packages=(clang cmake ninja-build lld binaryen wasi-libc python3 brotli librsvg2-bin esbuild
   'libc++-dev-wasm32|libc++-14-dev-wasm32' 'libclang-rt-dev-wasm32|libclang-rt-14-dev-wasm32')

@@ -16,12 +16,6 @@ COMPRESSED = {".html", ".js", ".css", ".json", ".wasm", ".svg", ".webmanifest", 
 ICONS = [192, 512]
 
 
-def without_comments(text):
-    """A module or style sheet without comments of its own line, and without indentation."""
-    text = re.sub(r"^\s*(//.*|/\*[^*]*\*/)$", "", text, flags=re.M)
-    return re.sub(r"\n\s*", "\n", text).lstrip("\n")
-
-
 def small_drawing(text):
     """A drawing without blanks between its parts, stretched to whatever place it is given."""
     text = re.sub(r">\s+<", "><", text).strip()
@@ -30,15 +24,24 @@ def small_drawing(text):
 
 
 def write_pages(pages, site):
-    for page in sorted(pages.iterdir()):
-        small = page.suffix in {".js", ".css"}
-        text = page.read_text()
-        (site / page.name).write_text(without_comments(text) if small else text)
+    """Scripts and the style sheet get small. The modules that the page starts with become one file;
+    what is fetched later stays by itself."""
+    for page in pages.iterdir():
+        if page.suffix not in {".js", ".css"}:
+            shutil.copy(page, site)
+    esbuild = ["esbuild", "--minify", "--log-level=warning", f"--outdir={site}"]
+    subprocess.run([*esbuild, pages / "start.js", pages / "worker.js", pages / "style.css"], check=True)
+    subprocess.run([*esbuild, "--bundle", "--format=esm", "--external:./commands.js",
+                    pages / "main.js", pages / "commands.js"], check=True)
 
 
 def write_pictures(assets, site):
+    """Those of the first window come ahead of the others."""
     drawings = {p.name: small_drawing(p.read_text()) for p in sorted(assets.glob("*-*.svg"))}
-    (site / "pictures.json").write_text(json.dumps(drawings, separators=(",", ":")))
+    first = {name: drawing for name, drawing in drawings.items() if name.startswith("gst-")}
+    later = {name: drawing for name, drawing in drawings.items() if name not in first}
+    for file, some in [("first-pictures.json", first), ("pictures.json", later)]:
+        (site / file).write_text(json.dumps(some, separators=(",", ":")))
     icon = assets / "zelvo.svg"
     shutil.copy(icon, site / "icon.svg")
     for size in ICONS:
@@ -61,9 +64,9 @@ def write_worker(site):
     for file in files:
         contents.update(file.encode() + b"\0" + (site / file).read_bytes())
     worker = site / "worker.js"
-    text = worker.read_text().replace("'VERSION'", f"'{contents.hexdigest()[:12]}'")
+    text = worker.read_text().replace('"VERSION"', f'"{contents.hexdigest()[:12]}"')
     files = [file for file in files if file != "index.html"]
-    worker.write_text(text.replace("['FILES']", json.dumps([".", *files])))
+    worker.write_text(text.replace('["FILES"]', json.dumps([".", *files])))
 
 
 def compress(site):

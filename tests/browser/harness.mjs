@@ -7,11 +7,11 @@ import { tmpdir } from 'node:os';
 import { join, resolve } from 'node:path';
 import readline from 'node:readline';
 
-const root = resolve(import.meta.dirname ?? new URL('.', import.meta.url).pathname, '../..');
+export const root = resolve(import.meta.dirname ?? new URL('.', import.meta.url).pathname, '../..');
 const require = createRequire(join(root, 'build/browser/tests/'));
 const { chromium } = require('playwright-core');
 
-export const headless = process.env.ZELVO_HEADLESS ?? join(root, 'build/release/zelvo-headless');
+const headless = process.env.ZELVO_HEADLESS ?? join(root, 'build/release/zelvo-headless');
 const site = join(root, 'build/browser/site');
 
 /// How long a condition is waited for. No test depends on how soon it comes true.

@@ -50,7 +50,23 @@ async function realGame() {
   });
   page.on('dialog', (dialog) => dialog.accept());  // that asks before the page is left
   await waiting(page, 'GST');
+  await page.waitForLoadState('networkidle');  // menu and keys come behind the first window
   return page;
+}
+
+/// Loads the page anew when a deed has come into the browser's storage.
+async function reload(page, deed) {
+  await page.waitForFunction((line) => new Promise((tell) => {
+    const opening = indexedDB.open('zelvo-game');
+    opening.onupgradeneeded = () => opening.transaction.abort();  // nothing is stored yet
+    opening.onerror = () => tell(false);
+    opening.onsuccess = () => {
+      const parts = opening.result.transaction('parts').objectStore('parts').getAll();
+      parts.onsuccess = () => tell(parts.result.join('').includes(line));
+      opening.result.close();
+    };
+  }), `${deed}\n`, { timeout: limit, polling: 100 });
+  await page.reload();
 }
 
 /// Keeps the game by what `asks` does; what is in the file is the game that the page shows.
@@ -93,11 +109,11 @@ test('a game by clicks is kept, and comes back when the page is loaded anew', as
   await keep(page, () => page.keyboard.press('Control+s'));
 
   const inSetup = await now(page);
-  await page.reload();
+  await reload(page, 'click ICF.OPT1(2)');
   await waiting(page, 'ICF');
   assert.deepEqual(await now(page), inSetup);
   await page.click(at('ICF.cmdexit'));
-  await page.reload();  // in the middle of the computer's turn
+  await reload(page, 'click ICF.cmdexit');  // in the middle of the computer's turn
   await waiting(page, 'GFM');
   const list = await keep(page, () => byMenu(page, at('GFM.Image1(0)')));
   assert.match(list, /click GFM.CMDGO\n(.*\n)*click GFM.CMDHELP\n(.*\n)*click ICF.cmdexit\n(.*\n)*tick GFM.Timer1\n/,
@@ -112,7 +128,8 @@ test('a game by clicks is kept, and comes back when the page is loaded anew', as
   await waiting(other, 'GST');
   await other.click(at('GST.CMDSTART'));
   await waiting(other, 'GFM');
-  await other.reload();
+  await other.waitForFunction(() => localStorage.getItem('zelvo-game') === 'under way', null, { timeout: limit });
+  await reload(other, 'click GST.CMDSTART');
   await waiting(other, 'GFM');
   await other.click(at('GFM.CMDEXIT'));
   await waiting(other, 'GST');

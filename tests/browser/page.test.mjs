@@ -270,7 +270,7 @@ test('no sound before the first gesture, and then the cues of the game', async (
 
 for (const [what, prepare, sentence] of [
   ['a file does not come', (page) => page.route('**/zelvo.wasm', (route) => route.abort()), /stop|load/],
-  ['a module does not come', (page) => page.route('**/view.js', (route) => route.abort()), /view\.js|main\.js/],
+  ['a module does not come', (page) => page.route('**/main.js', (route) => route.abort()), /main\.js/],
   ['the browser is too old', (page) => page.addInitScript(() => delete window.WebAssembly), /too old/],
 ]) {
   test(`one sentence says that ${what}`, async () => {

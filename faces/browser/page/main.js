@@ -8,14 +8,19 @@ import { Store } from './store.js';
 import { View } from './view.js';
 
 const { say, suspends, program, pictures } = window.zelvoStart;
+// What the first window can do without waits until that is painted.
+let isShown;
+const painted = new Promise((resolve) => (isShown = resolve))
+  .then(() => new Promise((resolve) => requestAnimationFrame(() => setTimeout(resolve))));
 const isVirtual = new URLSearchParams(location.search).has('virtual');
 
-async function fetchPictures() {
-  const answer = await pictures;
-  if (!answer.ok) throw new Error('pictures.json did not come');
+/// The addresses of the pictures that a file holds.
+async function addresses(fetched) {
+  const answer = await fetched;
+  if (!answer.ok) throw new Error(`${answer.url.split('/').pop()} did not come`);
   const drawings = Object.entries(await answer.json());
-  return Object.fromEntries(drawings.map(([file, drawing]) =>
-    [file, URL.createObjectURL(new Blob([drawing], { type: 'image/svg+xml' }))]));
+  return drawings.map(([file, drawing]) =>
+    [file, URL.createObjectURL(new Blob([drawing], { type: 'image/svg+xml' }))]);
 }
 
 /// What the program calls. It suspends in `wait`, `pause` and `playCue` only.
@@ -44,11 +49,12 @@ function makeHost(memory, { view, queue, clock, sounds, scripted, store, whole, 
       const design = JSON.parse(text(start, length));
       view.build(design);
       whole.then((commands) => commands.build(design.commands));
-      afterFirstPaint(() => sounds.fetchAhead(design.cues));
+      painted.then(() => sounds.fetchAhead(design.cues));
     },
     show(start, length) {
       const change = JSON.parse(text(start, length));
       view.show(change);
+      isShown();
       if ('can' in change || 'notice' in change) whole.then((commands) => commands.show(change));
       if (change.waiting === 'ended') store.forget();
     },
@@ -88,28 +94,28 @@ class Script {
   }
 }
 
-function afterFirstPaint(task) {
-  requestAnimationFrame(() => setTimeout(task));
-}
-
 /// What the player does with the game as a whole comes when the page stands.
-function fetchCommands(...parts) {
-  return new Promise((resolve) => afterFirstPaint(async () => {
-    const { Commands } = await import('./commands.js');
-    resolve(new Commands(...parts));
-  }));
+async function fetchCommands(...parts) {
+  await painted;
+  const { Commands } = await import('./commands.js');
+  return new Commands(...parts);
 }
 
 async function main() {
   const clock = new Clock();
   const scripted = new Script();
   const store = new Store();
-  const interrupted = isVirtual ? null : store.read();
-  const view = new View(await fetchPictures(), !isVirtual);
+  const interrupted = isVirtual ? Promise.resolve(null) : store.read();
+  const view = new View(!isVirtual);
+  view.bringPictures(await addresses(pictures));
   const queue = new Queue(() => view.scene, clock);
   const sounds = new Sounds(clock);
   const whole = fetchCommands(queue, clock, sounds);
   const kept = await interrupted;
+  const bringOthers = async () => view.bringPictures(await addresses(fetch('pictures.json')));
+  // A game that goes on is seen at once as it was.
+  if (kept === null) painted.then(bringOthers).catch(stop);
+  else await bringOthers();
   const play = await load(program, suspends, (memory) =>
     makeHost(memory, { view, queue, clock, sounds, scripted, store, whole, kept }));
   view.listen((command) => queue.put(command), (question) => queue.order(question));
@@ -122,11 +128,13 @@ async function main() {
     if (view.isUnderWay) event.preventDefault();
   });
   addEventListener('pagehide', () => store.leave());
-  afterFirstPaint(() => navigator.serviceWorker?.register('worker.js'));
+  painted.then(() => navigator.serviceWorker?.register('worker.js'));
   await play(Number(isVirtual));
 }
 
-main().catch((error) => {
+function stop(error) {
   console.error(error);
   say(`Zelvo had to stop: ${error.message}. Please load the page again.`);
-});
+}
+
+main().catch(stop);

@@ -36,7 +36,7 @@
     say: say,
     suspends: suspends,
     program: fetch(suspends ? 'zelvo.wasm' : 'zelvo-asyncify.wasm'),
-    pictures: fetch('pictures.json')
+    pictures: fetch('first-pictures.json')
   };
   // Whoever awaits them hears of a failure.
   window.zelvoStart.program.catch(function () {});

@@ -30,7 +30,7 @@ export class View {
   #windows = [];  // each its design, element, client area, title and whether it is open
   #controls = [];  // each its design, element and what it shows
   #stack = [];  // open windows, the latest last
-  #pictures;  // addresses by file
+  #pictures = new Map();  // addresses by file
   #twitches;
   #put = () => {};
   #ask = () => {};
@@ -43,9 +43,16 @@ export class View {
   #hovered = null;  // what the mouse was last over, unless the game has changed since
 
   /// Without `twitches` what comes back at once is there at once.
-  constructor(pictures, twitches) {
-    this.#pictures = pictures;
+  constructor(twitches) {
     this.#twitches = twitches;
+  }
+
+  /// Takes pairs of a picture's file and its address. What waits for them is drawn.
+  bringPictures(pairs) {
+    for (const [file, address] of pairs) this.#pictures.set(file, address);
+    for (const { element } of this.#controls) {
+      if (element.dataset.picture) this.#drawPicture(element, element.dataset.picture);
+    }
   }
 
   /// Hands what the player does to a function, as commands of scripted play, from now on, and what
@@ -411,7 +418,8 @@ export class View {
   #drawPicture(element, file) {
     element.dataset.picture = file;
     element.classList.toggle('pictured', file !== '');
-    element.style.setProperty('--picture', file === '' ? 'none' : `url("${this.#pictures[file]}")`);
+    const address = this.#pictures.get(file);
+    element.style.setProperty('--picture', address === undefined ? 'none' : `url("${address}")`);
   }
 
   #becomeVisible(control) {

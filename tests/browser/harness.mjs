@@ -56,11 +56,12 @@ export async function start() {
   };
 }
 
-/// Time runs so many times as fast for the page as for the test; `zelvoSpeed(times)` changes that.
+/// Time runs so many times as fast for the page as for the test; `zelvoSpeed(times)` changes that,
+/// also for the page when it is loaded anew.
 export const hasten = (times) => (page) => page.addInitScript((initial) => {
   const now = performance.now.bind(performance);
   const later = window.setTimeout.bind(window);
-  let speed = initial;
+  let speed = Number(sessionStorage.getItem('zelvoSpeed') ?? initial);
   let begin = 0;
   let passed = 0;
   performance.now = () => passed + (now() - begin) * speed;
@@ -69,6 +70,7 @@ export const hasten = (times) => (page) => page.addInitScript((initial) => {
     passed = performance.now();
     begin = now();
     speed = changed;
+    sessionStorage.setItem('zelvoSpeed', speed);
   };
 }, times);
 

@@ -49,8 +49,9 @@ async function realGame() {
     },
   });
   page.on('dialog', (dialog) => dialog.accept());  // that asks before the page is left
+  page.on('filechooser', () => {});  // so that the driver is told of them from the beginning
   await waiting(page, 'GST');
-  await page.waitForLoadState('networkidle');  // menu and keys come behind the first window
+  await page.waitForSelector('body[aria-keyshortcuts]', { state: 'attached' });  // menu and keys come behind the first window
   return page;
 }
 
@@ -98,20 +99,21 @@ test('a game by clicks is kept, and comes back when the page is loaded anew', as
   for (const id of ['GFM.Image1(0)', 'GFM.CMDBUILD', 'GFM.HILTON', 'GFM.BUILDIT', 'HS.CMDAN1(0)']) {
     await page.click(at(id));
   }
-  await keep(page, () => byMenu(page, at('GFM.Label1')));
+  await keep(page, () => page.keyboard.press('Control+s'));
   await page.evaluate(() => window.zelvoSpeed(0.2));
   await page.click(at('GFM.CMDGO'));
   await page.waitForFunction(() => document.body.dataset.waiting === '', null, { timeout: limit });
   await page.click(at('GFM.CMDHELP'));  // while the computer plays
-  await page.evaluate(() => window.zelvoSpeed(20));
   await waiting(page, 'ICF');
+  await page.evaluate(() => window.zelvoSpeed(0.001));  // hardly a timer ticks
   await page.click(at('ICF.OPT1(2)'));
-  await keep(page, () => page.keyboard.press('Control+s'));
+  await keep(page, () => byMenu(page, at('ICF.Label1')));
 
   const inSetup = await now(page);
   await reload(page, 'click ICF.OPT1(2)');
   await waiting(page, 'ICF');
   assert.deepEqual(await now(page), inSetup);
+  await page.evaluate(() => window.zelvoSpeed(20));
   await page.click(at('ICF.cmdexit'));
   await reload(page, 'click ICF.cmdexit');  // in the middle of the computer's turn
   await waiting(page, 'GFM');

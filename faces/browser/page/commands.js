@@ -14,6 +14,9 @@ function make(tag, className, ...children) {
   return element;
 }
 
+/// A key as helpers know it.
+const shortcut = ({ key }) => key.replace('Ctrl', 'Control');
+
 export class Commands {
   #queue;
   #clock;
@@ -32,6 +35,7 @@ export class Commands {
   build(designs) {
     this.#designs = designs;
     if (designs.length === 0) return;
+    document.body.setAttribute('aria-keyshortcuts', designs.map(shortcut).join(' '));
     // Ahead of all that the game's own windows do with keys and clicks.
     addEventListener('keydown', (event) => this.#keyPressed(event), true);
     addEventListener('contextmenu', (event) => this.#menuAsked(event), true);
@@ -139,6 +143,7 @@ export class Commands {
       menu.append(this.#makeItem(design, menu));
     }
     menu.addEventListener('click', ({ target }) => target === menu && menu.close());
+    addEventListener('resize', () => menu.close(), { once: true });
     this.#open(menu);
     const { width, height } = menu.getBoundingClientRect();
     menu.style.left = `${Math.max(0, Math.min(left, innerWidth - width))}px`;
@@ -150,7 +155,7 @@ export class Commands {
     const isPace = design.pace !== 0;
     item.setAttribute('role', isPace ? 'menuitemradio' : 'menuitem');
     item.setAttribute('aria-label', design.name);
-    item.setAttribute('aria-keyshortcuts', design.key.replace('Ctrl', 'Control'));
+    item.setAttribute('aria-keyshortcuts', shortcut(design));
     if (isPace) item.setAttribute('aria-checked', design.pace === this.#clock.pace);
     item.dataset.command = design.key;
     item.disabled = !this.#canDo(design);

@@ -142,12 +142,25 @@ export class Commands {
       if (design.pace === 1) menu.append(document.createElement('hr'));
       menu.append(this.#makeItem(design, menu));
     }
-    menu.addEventListener('click', ({ target }) => target === menu && menu.close());
+    this.#listenTo(menu);
     addEventListener('resize', () => menu.close(), { once: true });
     this.#open(menu);
     const { width, height } = menu.getBoundingClientRect();
     menu.style.left = `${Math.max(0, Math.min(left, innerWidth - width))}px`;
     menu.style.top = `${Math.max(0, Math.min(top, innerHeight - height))}px`;
+  }
+
+  /// A click beside the menu closes it. The finger that has opened it does nothing by going away.
+  #listenTo(menu) {
+    let isPressed = false;
+    menu.addEventListener('pointerdown', () => (isPressed = true));
+    menu.addEventListener('click', (event) => {
+      const { left, top, right, bottom } = menu.getBoundingClientRect();
+      const { clientX: x, clientY: y, detail } = event;
+      if (detail === 0) return;  // by the keyboard
+      if (!isPressed) event.stopPropagation();
+      else if (x < left || x > right || y < top || y > bottom) menu.close();
+    }, true);
   }
 
   #makeItem(design, menu) {

@@ -200,8 +200,13 @@ TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
   EXPECT_EQ(last("keep\n")["error"], "keep needs the name of a file");
   EXPECT_EQ(last("keep /no/such\n")["error"],
             "/no/such cannot be written: No such file or directory");
-  EXPECT_EQ(last("keep /dev/full\n")["error"],
-            "/dev/full cannot be written: Operation not supported");
+  EXPECT_EQ(last("keep " + folder.path + "\n")["error"],
+            folder.path + " cannot be written: Is a directory");
+  // Not a device, which a fault would replace.
+  const std::string pipe = folder.File("pipe");
+  EXPECT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_EQ(last("keep " + pipe + "\n")["error"],
+            pipe + " cannot be written: Operation not supported");
   EXPECT_EQ(last("set Word \"x\"\n" + keep)["error"],
             "something was set, which no player can do: there is no list of such a game");
   EXPECT_EQ(ReadFile(file).text, "old");
@@ -214,7 +219,7 @@ TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
             "zelvo-game 1\nback\nsound yes\nclick GST.CMDSTART\nsound yes\nclock 12:00:00\nback\n"
             "clock 12:00:00\nback\nclock 12:00:00\nback\nclock 12:00:00\nback 2\nclock 12:00:00\n"
             "hover GFM\nclick GFM.CMDHELP\nclick ICF.OPT1(2)\n");
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 1);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 2);
 }
 
 std::ptrdiff_t OpenHandles() {

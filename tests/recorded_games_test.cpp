@@ -34,7 +34,8 @@ std::string Describe(const Control& control) {
 
 std::string Describe(const Window& window) {
   if (!window.IsLoaded()) return "not loaded";
-  return window.Caption + (window.IsShown() ? " shown" : " hidden");
+  const std::string inHand = window.inHand != nullptr ? ", " + window.inHand->FullName() : "";
+  return window.Caption + (window.IsShown() ? " shown" : " hidden") + inHand;
 }
 
 std::vector<Held> Everything(Game& game) {

@@ -43,6 +43,15 @@ TEST_F(Sound, AMissingFileIsNoFailureButAMissingPlayerIs) {
   EXPECT_FALSE(game.SoundOn);
 }
 
+TEST_F(Sound, OneThatNeverEndsIsWaitedForNoLongerThanItsFileIsLong) {
+  platform.SetPace(5);
+  constexpr int always = 1'000'000'000;
+  sound->looksWhilePlaying = always;
+  EXPECT_TRUE(platform.PlaySound(game.AppPath + "CLICK.WAV", true));
+  EXPECT_LT(sound->looksWhilePlaying, always);
+  EXPECT_GT(sound->looksWhilePlaying, 0);
+}
+
 TEST_F(Sound, WhatHappensWhileTheGameWaitsForItComesAfterIt) {
   StartGame();
   game.Yield();
@@ -134,6 +143,10 @@ TEST(WaveFiles, SayHowLongTheGameWaitsForThem) {
   };
   EXPECT_EQ(length(good), 1'000);
   EXPECT_EQ(length(with(40, "\xff\xff\xff\x7f") + QByteArray(92'000, '\x80')), 10'000);
+  // Other parts may come before, with a byte to fill up an odd one.
+  const QByteArray remark("LIST\3\0\0\0abc\0", 12);
+  EXPECT_EQ(length(good.left(12) + remark + good.mid(12)), 1'000);
+  EXPECT_EQ(length(good.left(36) + remark + good.mid(36)), 1'000);
   // A header that promises more than there is does not make the sound longer.
   EXPECT_EQ(length(good.left(44 + 4'000)), 500);
   EXPECT_EQ(length(with(40, "\xff\xff\xff\xff")), 1'000);

@@ -257,12 +257,18 @@ TEST_F(OnScreen, WidgetsShowWhatTheDataHolds) {
 }
 
 TEST_F(OnScreen, EveryPictureIsDrawnSharp) {
+  int clear = 0;
   for (int id = 1; id < static_cast<int>(PictureId::Count); ++id) {
     const auto picture = static_cast<PictureId>(id);
+    QImage(96, 96, QImage::Format_ARGB32_Premultiplied).fill(Qt::red);  // leaves its colour behind
     const QPixmap pixmap = platform.pictures.Get(picture, {96, 96});
+    const int corner = pixmap.toImage().pixelColor(0, 0).alpha();
+    clear += corner == 0 ? 1 : 0;
+    EXPECT_TRUE(corner == 0 || corner == 255) << PictureOwner(picture);
     EXPECT_EQ(pixmap.size(), QSize(96, 96)) << PictureOwner(picture);
     EXPECT_GT(platform.pictures.Proportion(picture), 0) << PictureOwner(picture);
   }
+  EXPECT_GT(clear, 10) << "pictures without a ground";
   EXPECT_TRUE(platform.pictures.Get("no-such.svg", {96, 96}).isNull());
 }
 

@@ -37,7 +37,7 @@ def wait_until(condition, what, limit=LIMIT):
         if result:
             return result
         if time.monotonic() > end:
-            raise Hangs(f"after {limit} s: {what}")
+            raise Hangs(f"after {limit} s: {what() if callable(what) else what}")
         time.sleep(0.02)
 
 
@@ -114,8 +114,13 @@ class Machine:
         if self.wm is None:
             return
         self.start(*self.wm)
-        wait_until(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
-                   "a window manager")
+
+        def is_at_work():
+            # What a window asks of openbox while that starts can lie unread until somebody else asks
+            # for something, so it is asked until it answers.
+            self.run("wmctrl", "-n", "1", check=False)
+            return self.run("xprop", "-root", "_NET_NUMBER_OF_DESKTOPS").endswith(" = 1\n")
+        wait_until(is_at_work, "a window manager")
 
     def _start_bus(self):
         process = self.start("dbus-daemon", "--session", "--nofork", "--print-address",
@@ -196,7 +201,7 @@ class Game:
         def find():
             self.must_run()
             return [window for window, title in self.windows().items() if title in titles]
-        return wait_until(find, f"a window {titles}, there are {self.windows()}", limit)[-1]
+        return wait_until(find, lambda: f"a window {titles}, there are {self.windows()}", limit)[-1]
 
     def active_window(self):
         """The title of the window that has the keyboard."""

@@ -77,6 +77,7 @@ class RandomPlayer {
 }  // namespace
 }  // namespace zelvo
 
+// NOLINTNEXTLINE(bugprone-exception-escape): a pattern of the invariants throws if it is malformed
 int main(int argc, char** argv) {
   const std::int64_t turns = argc > 1 ? std::atoll(argv[1]) : 20'000;
   const auto seed = static_cast<std::uint32_t>(argc > 2 ? std::atoll(argv[2]) : 1);

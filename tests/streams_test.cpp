@@ -36,7 +36,8 @@ struct Complaint {
 void ExpectComplaints(const std::string& program, std::initializer_list<Complaint> rows) {
   for (const auto& [line, said] : rows) {
     const auto [printed, status] = Shell("{ " + line + "; } 2>&1 >/dev/null");
-    EXPECT_EQ(printed.find(program + ": " + said), 0) << line << ": " << printed;
+    EXPECT_EQ(printed.find(std::string(program).append(": ").append(said)), 0)
+        << line << ": " << printed;
     EXPECT_EQ(printed.find('\n'), printed.size() - 1) << line << ": " << printed;
     EXPECT_EQ(status, 1) << line;
   }
@@ -53,7 +54,8 @@ void ExpectAnswers(const std::string& program) {
                                                          {"-x", "x", "2"},
                                                          {"--version=3", "version", "2"},
                                                          {"/dev/null surplus", "", "2"}}) {
-    const auto [printed, status] = Shell(program + (" " + call) + " 2>&1");
+    const auto [printed, status] =
+        Shell(std::string(program).append(" ").append(call).append(" 2>&1"));
     EXPECT_NE(printed.find(told), std::string::npos) << program << call << printed;
     EXPECT_EQ(std::to_string(status), expected) << program << call;
   }

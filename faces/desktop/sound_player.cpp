@@ -51,15 +51,15 @@ struct Shared {
 
 /// Plays on the sound server what is ordered, in a thread of its own. Nothing in it waits but
 /// the loop, so that a server that does not answer, dies or comes back holds up nobody.
-class Voice {
+class Playback {
  public:
-  explicit Voice(Shared& shared) : shared_(shared) {
+  explicit Playback(Shared& shared) : shared_(shared) {
     pa_mainloop_api* api = pa_mainloop_get_api(loop_);
     api->io_new(api, shared.bell, PA_IO_EVENT_INPUT, Hear, nullptr);
   }
-  Voice(const Voice&) = delete;
-  Voice& operator=(const Voice&) = delete;
-  ~Voice() {
+  Playback(const Playback&) = delete;
+  Playback& operator=(const Playback&) = delete;
+  ~Playback() {
     CloseStream();
     CloseContext();
     pa_mainloop_free(loop_);
@@ -115,7 +115,8 @@ class Voice {
     context_ = pa_context_new_with_proplist(pa_mainloop_get_api(loop_), "Zelvo", properties);
     pa_proplist_free(properties);
     pa_context_set_state_callback(
-        context_, [](pa_context*, void* voice) { static_cast<Voice*>(voice)->ContextChanged(); },
+        context_,
+        [](pa_context*, void* playback) { static_cast<Playback*>(playback)->ContextChanged(); },
         this);
     if (pa_context_connect(context_, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) < 0) Finish(false);
   }
@@ -148,11 +149,14 @@ class Voice {
     stream_ = pa_stream_new(context_, "Sound", &format, nullptr);
     if (stream_ == nullptr) return Finish(true);
     pa_stream_set_state_callback(
-        stream_, [](pa_stream*, void* voice) { static_cast<Voice*>(voice)->StreamChanged(); },
+        stream_,
+        [](pa_stream*, void* playback) { static_cast<Playback*>(playback)->StreamChanged(); },
         this);
     pa_stream_set_write_callback(
         stream_,
-        [](pa_stream*, std::size_t room, void* voice) { static_cast<Voice*>(voice)->Write(room); },
+        [](pa_stream*, std::size_t room, void* playback) {
+          static_cast<Playback*>(playback)->Write(room);
+        },
         this);
     constexpr auto byServer = static_cast<std::uint32_t>(-1);
     const auto ahead = static_cast<std::uint32_t>(pa_usec_to_bytes(writtenAhead.count(), &format));
@@ -181,7 +185,8 @@ class Voice {
   void Drain() {
     pa_stream_set_write_callback(stream_, nullptr, nullptr);
     drain_ = pa_stream_drain(
-        stream_, [](pa_stream*, int, void* voice) { static_cast<Voice*>(voice)->Drained(); }, this);
+        stream_,
+        [](pa_stream*, int, void* playback) { static_cast<Playback*>(playback)->Drained(); }, this);
     if (drain_ == nullptr) Finish(true);
   }
 
@@ -212,8 +217,8 @@ class Voice {
   std::size_t written_ = 0;  // bytes of the order's samples
 };
 
-void RunVoice(const std::shared_ptr<Shared>& shared) {
-  Voice(*shared).Run();
+void RunPlayback(const std::shared_ptr<Shared>& shared) {
+  Playback(*shared).Run();
   const std::lock_guard lock(shared->mutex);
   shared->left = true;
   shared->changed.notify_all();
@@ -240,7 +245,7 @@ class ServerPlayer : public SoundPlayer {
     shared_->order = {wave, Clock::now()};
     shared_->playing = true;
     eventfd_write(shared_->bell, 1);
-    if (!thread_.joinable()) thread_ = std::thread(RunVoice, shared_);
+    if (!thread_.joinable()) thread_ = std::thread(RunPlayback, shared_);
   }
 
   bool IsPlaying() override {

@@ -237,7 +237,9 @@ TEST_F(KeptOnDesktop, WhatIsNoKeptGameIsRefusedAndStaysAsItIs) {
            {"zelvo-game 1\nback\nclick GFM.CMDGO\n",
             "its line 3 does not fit the game: click GFM.CMDGO"}}) {
     PutIntoFile(text);
-    EXPECT_EQ(session.GoOn(path), path + " cannot be gone on with: " + why + ".");
+    EXPECT_EQ(session.GoOn(path), QString("%1 cannot be gone on with: %2.")
+                                      .arg(file, QString::fromStdString(why))
+                                      .toStdString());
     EXPECT_EQ(InFile(), text);
   }
   EXPECT_EQ(session.GoOn("/no/such"), "/no/such cannot be read: No such file or directory.");

@@ -256,6 +256,26 @@ TEST_F(OnScreen, WidgetsShowWhatTheDataHolds) {
   EXPECT_TRUE(text->isReadOnly());
 }
 
+TEST_F(OnScreen, WhatHappensWhileTheWindowsAreBroughtUpToDateComesAfterIt) {
+  StartGame();
+  Exhibit(game.RB);
+  const QString before = Widget(game.GFM->PSHOW).Text().text;
+  int delivered = 0;
+  QObject::connect(&View(game.RB), &QWidget::windowTitleChanged, [&] {
+    game.GFM->PSHOW.Caption = "Late news";
+    platform.Sync();
+    platform.Deliver([&](Surface&) { ++delivered; });
+    EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, before);
+    EXPECT_EQ(delivered, 0);
+  });
+  game.RB->Caption = "News";
+  platform.Sync();
+  EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, "Late news");
+  platform.Deliver([](Surface&) {});
+  QCoreApplication::processEvents();
+  EXPECT_EQ(delivered, 1);
+}
+
 TEST_F(OnScreen, EveryPictureIsDrawnSharp) {
   int clear = 0;
   for (int id = 1; id < static_cast<int>(PictureId::Count); ++id) {

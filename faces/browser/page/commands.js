@@ -1,18 +1,12 @@
 // What the player can do with the game as a whole: the menu of it, its keys, and the files of kept
 // games. The game stands still while something of this is open.
 
+import { make } from './element.js';
+
 const longTouch = 600;  // milliseconds
 const slip = 10;  // pixels that a finger may move meanwhile
 const longestFile = 16 * 1024 * 1024;  // bytes, the games of a year
 const suffix = '.zelvo';
-
-function make(tag, className, ...children) {
-  const element = document.createElement(tag);
-  element.className = className;
-  if (tag === 'button') element.type = 'button';
-  element.append(...children);
-  return element;
-}
 
 /// A key as helpers know it.
 const shortcut = ({ key }) => key.replace('Ctrl', 'Control');

@@ -1,6 +1,7 @@
 // The windows on the page, built from their design and kept as the game last told them. There is no
 // code for a particular window here.
 
+import { make } from './element.js';
 import { fit } from './text.js';
 
 /// A control that is hidden stays gone for this many milliseconds, even if it is shown again at
@@ -13,14 +14,6 @@ const arrows = {
   ArrowUp: [0, -1],
   ArrowDown: [0, 1],
 };
-
-function make(tag, className, ...children) {
-  const element = document.createElement(tag);
-  element.className = className;
-  if (tag === 'button') element.type = 'button';
-  element.append(...children);
-  return element;
-}
 
 /// A caption for the screen: its line breaks are single ones there.
 const screenText = (caption) => caption.replaceAll('\r', '');

@@ -17,7 +17,8 @@ std::string AwkwardText(std::mt19937& random) {
   static const std::vector<std::string> pieces = [] {
     auto all = Pieces(
         "a|~|\x7f|\"|\\|/|\x01|\x1f|\\u|\\n|\\/|\\q|00e9|d83d|\\ud83d\\ude00|\\udc00|\\ud800|"
-        "\\u0000|\\u20ac|\xc3\xa9|\xe2\x82\xac|\xc3|\xe2|\x82|\xac|\xf0|\x9f|\x8f|\xbf|\xc0|\xed|"
+        "\\u0000|\\u20ac|\\udfff|\\ue000|\xc3\xa9|\xe2\x82\xac|\xc3|\xe2|\x82|\xac|\xf0|\x9f|\x8f|"
+        "\xbf|\xc0|\xed|"
         "\xa0|"
         "\xe0|\x80|\xf4|\x90|\xf5|\xff|\xf0\x9f\x98\x80");
     all.insert(all.end(), {" ", "\n"});

@@ -6,7 +6,6 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QProcess>
-#include <QPushButton>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <functional>
@@ -72,13 +71,6 @@ class KeptOnDesktop : public testing::Test, public Player {
   }
   std::function<void()> Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
     return [this, key, modifiers] { QTest::keyClick(platform.Front(), key, modifiers); };
-  }
-  static std::function<void()> Answer(QMessageBox::StandardButton button) {
-    return [button] {
-      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-      ASSERT_NE(box, nullptr);
-      box->button(button)->click();
-    };
   }
 
   // `Untouched`, or the look alone would load a window.
@@ -211,6 +203,21 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
   Run({Press(game.GFM.Untouched().Image1[5]), Keys(Qt::Key_Z)});
   EXPECT_TRUE(Widget(game.GFM->Image1[0]).IsInHand());
   EXPECT_FALSE(Widget(game.GFM->Image1[5]).IsInHand());
+}
+
+TEST_F(KeptOnDesktop, NothingOfAGameReachesTheOneThatComesInItsPlace) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
+  Once([box] { return box() != nullptr; }, [box] { box()->accept(); });
+  platform.MessageBox("One", MessageStyle::Ok, "Zelvo");
+  session.TakeBack();
+  platform.Pause(true);
+  bool reached = false;
+  platform.Deliver([&reached](Surface&) { reached = true; });
+  ASSERT_TRUE(QTest::qWaitFor([this] { return !session.IsReplacing(); }));
+  platform.Pause(false);
+  Run({[] {}});
+  EXPECT_FALSE(reached);
 }
 
 TEST_F(KeptOnDesktop, AFileIsGoneOnWithInTheMiddleOfABlinkAndItsTornLineIsDropped) {

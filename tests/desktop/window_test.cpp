@@ -15,6 +15,7 @@
 #include <set>
 #include <tuple>
 
+#include "faces/desktop/placing.h"
 #include "tools/gallery/desktop_game.h"
 
 namespace zelvo {
@@ -178,6 +179,24 @@ TEST_F(OnScreen, WhatSpeaksOfALotStandsBesideIt) {
   turns("U", 33);    // a mall is zoned
   EXPECT_GE(seen[&game.SV.Untouched()].size(), 5U);
   EXPECT_GE(seen[&game.ML.Untouched()].size(), 5U);
+}
+
+TEST(Placing, IsInTheRoomAndBesideWhatIsToBeSeenByTheShortestWay) {
+  const QRect room(0, 0, 1000, 600);
+  const QRect spot(400, 200, 100, 100);
+  for (const auto& [place, corner] :
+       std::initializer_list<std::pair<QRect, QPoint>>{{{10, 10, 200, 100}, {10, 10}},
+                                                       {{-50, -20, 200, 100}, {0, 0}},
+                                                       {{900, 550, 200, 100}, {800, 500}},
+                                                       {{480, 150, 200, 300}, {500, 150}},
+                                                       {{220, 150, 200, 300}, {200, 150}},
+                                                       {{350, 280, 200, 100}, {350, 300}},
+                                                       {{350, 120, 200, 100}, {350, 100}},
+                                                       {{480, 150, 510, 300}, {480, 300}},
+                                                       {{0, 0, 1000, 600}, {0, 0}}}) {
+    EXPECT_EQ(MovedBeside(spot, room, place).topLeft(), corner)
+        << place.left() << ' ' << place.top();
+  }
 }
 
 TEST_F(OnScreen, NoLineOfAMessageHoldsALonelyMark) {

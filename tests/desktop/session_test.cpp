@@ -210,10 +210,10 @@ TEST_F(KeptOnDesktop, NothingOfAGameReachesTheOneThatComesInItsPlace) {
   const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
   Once([box] { return box() != nullptr; }, [box] { box()->accept(); });
   platform.MessageBox("One", MessageStyle::Ok, "Zelvo");
-  session.TakeBack();
   platform.Pause(true);
   bool reached = false;
   platform.Deliver([&reached](Surface&) { reached = true; });
+  session.TakeBack();
   ASSERT_TRUE(QTest::qWaitFor([this] { return !session.IsReplacing(); }));
   platform.Pause(false);
   Run({[] {}});

@@ -275,7 +275,7 @@ TEST_F(OnScreen, WidgetsShowWhatTheDataHolds) {
   EXPECT_TRUE(text->isReadOnly());
 }
 
-TEST_F(OnScreen, WhatHappensWhileTheWindowsAreBroughtUpToDateComesAfterIt) {
+TEST_F(OnScreen, WhatHappensWhileTheWindowsAreSyncedOrInAPauseComesAfterIt) {
   StartGame();
   Exhibit(game.RB);
   const QString before = Widget(game.GFM->PSHOW).Text().text;
@@ -293,6 +293,13 @@ TEST_F(OnScreen, WhatHappensWhileTheWindowsAreBroughtUpToDateComesAfterIt) {
   platform.Deliver([](Surface&) {});
   QCoreApplication::processEvents();
   EXPECT_EQ(delivered, 1);
+  // And what happens in a pause comes after that.
+  platform.Pause(true);
+  platform.Deliver([&](Surface&) { ++delivered; });
+  EXPECT_EQ(delivered, 1);
+  platform.Pause(false);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(delivered, 2);
 }
 
 TEST_F(OnScreen, EveryPictureIsDrawnSharp) {

@@ -13,9 +13,9 @@ class Currency {
 
   constexpr Currency() = default;
   static constexpr Currency FromCounts(std::int64_t tenThousandths) {
-    Currency amount;
-    amount.counts_ = tenThousandths;
-    return amount;
+    Currency result;
+    result.counts_ = tenThousandths;
+    return result;
   }
   static Currency FromDollars(std::int64_t dollars);
 

@@ -27,7 +27,6 @@ std::string Name(const std::array<std::string_view, n>& names, E value) {
 }
 
 std::string Number(int number) { return std::to_string(number); }
-std::string Bool(bool flag) { return flag ? "true" : "false"; }
 
 /// Empty if it is transparent.
 std::string ColorText(Color color) {

@@ -11,7 +11,6 @@ namespace zelvo {
 namespace {
 
 std::string Number(long long number) { return std::to_string(number); }
-std::string Bool(bool flag) { return flag ? "true" : "false"; }
 
 std::string AsJson(int index, const Control& control, const Shown& shown) {
   std::string json = "{\"at\":" + Number(index);

@@ -30,10 +30,10 @@ void FocusPath::CameTo(ControlWidget& widget) {
 void FocusPath::Leave(ControlWidget& widget) {
   if (!widget.IsFocusOfItsWindow()) return;
   const auto stops = Stops();
-  const auto inHand = std::find_if(order_.begin(), order_.end(), [](ControlWidget* other) {
+  const auto held = std::find_if(order_.begin(), order_.end(), [](ControlWidget* other) {
     return other->IsInHand() && other->TakesFocus();
   });
-  passedTo_ = inHand != order_.end() ? *inHand : stops.empty() ? nullptr : stops.front();
+  passedTo_ = held != order_.end() ? *held : stops.empty() ? nullptr : stops.front();
   if (passedTo_ == nullptr) return;
   passedTo_->setFocus(Qt::OtherFocusReason);
   left_ = &widget;

@@ -9,6 +9,9 @@ namespace zelvo {
 
 /// A string in double quotes with JSON's escapes; bytes that are no UTF-8 are replaced.
 std::string Quoted(std::string_view text);
+
+/// A truth value as JSON.
+inline std::string Bool(bool flag) { return flag ? "true" : "false"; }
 /// A decimal number of dollars with up to four decimals, as in 75000 or -0.05.
 std::string Decimal(Currency amount);
 /// The same with all four decimals, as in 75000.0000.

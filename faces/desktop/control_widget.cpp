@@ -81,19 +81,19 @@ void ControlWidget::TakeOver() {
   if (!shown_.enabled) view_.focusPath().Leave(*this);
   setEnabled(shown_.enabled);
   update();
-  if (QAccessible::isActive()) TellHelpers(newName, newValue);
+  TellHelpers(newName, newValue);
 }
 
 void ControlWidget::TellHelpers(bool newName, bool newValue) {
   if (newName) {
     QAccessibleEvent renamed(this, QAccessible::NameChanged);
-    QAccessible::updateAccessibility(&renamed);
+    view_.desk().tellHelpers(renamed);
   }
   if (newValue) {
     QAccessible::State checked;
     checked.checked = true;
     QAccessibleStateChangeEvent ticked(this, checked);
-    QAccessible::updateAccessibility(&ticked);
+    view_.desk().tellHelpers(ticked);
   }
 }
 

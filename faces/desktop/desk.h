@@ -6,6 +6,8 @@
 #include "faces/desktop/voice.h"
 #include "surface/surface.h"
 
+class QAccessibleEvent;
+
 namespace zelvo {
 
 class WindowView;
@@ -14,8 +16,11 @@ class WindowView;
 /// game.
 class Desk {
  public:
-  Desk(const QString& pictureFolder, Voice::Speaker speaker)
-      : pictures(pictureFolder), voice(std::move(speaker)) {}
+  /// Passes on what screen readers are to know of a control.
+  using Helpers = std::function<void(QAccessibleEvent&)>;
+
+  Desk(const QString& pictureFolder, Voice::Speaker speaker, Helpers helpers)
+      : pictures(pictureFolder), voice(std::move(speaker)), tellHelpers(std::move(helpers)) {}
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
   virtual ~Desk() = default;
@@ -31,6 +36,7 @@ class Desk {
 
   Pictures pictures;
   Voice voice;
+  Helpers tellHelpers;
   /// The player's last input came from the keyboard, so the focus is to be seen.
   bool usesKeys = false;
   /// How often a button of the mouse went down on a window so far.

@@ -1,6 +1,7 @@
 #include "faces/desktop/desktop_platform.h"
 
 #include <QAbstractEventDispatcher>
+#include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 #include <QLabel>
@@ -44,12 +45,14 @@ Machine ThisMachine(const QString& dataFolder) {
   machine.speaker = [announcer = std::make_shared<Announcer>()](const QString& text) {
     announcer->Say(text);
   };
+  machine.helpers = [](QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); };
   machine.leave = QCoreApplication::quit;
   return machine;
 }
 
 DesktopPlatform::DesktopPlatform(Machine machine)
-    : Desk(machine.dataFolder + "/pictures", machine.speaker), machine_(std::move(machine)) {
+    : Desk(machine.dataFolder + "/pictures", machine.speaker, machine.helpers),
+      machine_(std::move(machine)) {
   // The game's windows have one design and their texts one language, whatever the system's is.
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   DescribeControlsToHelpers();

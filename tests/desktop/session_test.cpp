@@ -310,6 +310,7 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->acceptMode(), mode);
+    EXPECT_EQ(dialog->defaultSuffix(), "zelvo");
     EXPECT_TRUE(platform.IsPaused());
     Keys(Qt::Key_Z)();  // which would take back
     dialog->fileSelected(path);

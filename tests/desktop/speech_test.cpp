@@ -110,6 +110,25 @@ TEST_F(Speech, NewsIsSpokenOnceWhenItChangesOrComesIntoSight) {
   EXPECT_TRUE(Heard()[0].starts_with("Player's credit, $5. Player's net worth, $"));
 }
 
+TEST_F(Speech, HelpersHearOfANewNameAndANewTick) {
+  StartGame();
+  Exhibit(game.ICF);
+  const auto after = [this](const std::function<void()>& change) {
+    helpersHeard.clear();
+    change();
+    platform.Sync();
+    return helpersHeard;
+  };
+  Control& lot = game.GFM->Image1[37];
+  Control& box = game.ICF->CKBANK;
+  const decltype(helpersHeard) renamed = {{&Widget(lot), QAccessible::NameChanged}};
+  const decltype(helpersHeard) ticked = {{&Widget(box), QAccessible::StateChanged}};
+  EXPECT_EQ(after([&] { lot.Picture = PictureId::ICF_MALL; }), renamed);
+  EXPECT_EQ(after([&] { lot.Caption = "Mall"; }), renamed);
+  EXPECT_TRUE(after([&] { lot.SetEnabled(false); }).empty());
+  EXPECT_EQ(after([&] { box.SetValue(!box.Value()); }), ticked);
+}
+
 TEST_F(Speech, ATurnIsToldFromBeginningToEnd) {
   StartGame();
   EXPECT_EQ(Heard().back(), "Player, Choose Purchased or open lot to build or buy");

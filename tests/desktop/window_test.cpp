@@ -64,6 +64,9 @@ TEST_F(OnScreen, WindowsComeUpWhereTheyBelong) {
     platform.Sync();
     EXPECT_FALSE(dialog.isVisible());
   }
+  View(game.GFM).move(-500, -400);
+  Exhibit(game.ICF);
+  EXPECT_TRUE(start.screen()->availableGeometry().contains(View(game.ICF).geometry()));
 }
 
 struct PaintCount : QObject {

@@ -89,6 +89,9 @@ Machine DesktopGame::TestMachine() {
   machine.tickLength = [this](int) { return tickLength; };
   machine.leave = [] {};
   machine.speaker = [this](const QString& text) { spoken.push_back(text.toStdString()); };
+  machine.helpers = [this](const QAccessibleEvent& event) {
+    helpersHeard.emplace_back(event.object(), event.type());
+  };
   auto player = std::make_unique<SilentPlayer>();
   sound = player.get();
   machine.sound = std::move(player);

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QAccessible>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "faces/desktop/session.h"
@@ -47,6 +49,7 @@ class DesktopGame {
   int tickLength = 0;  ///< milliseconds of any timer's interval
   SilentPlayer* sound = nullptr;
   std::vector<std::string> spoken;
+  std::vector<std::pair<QObject*, QAccessible::Event>> helpersHeard;
   DesktopPlatform platform;
   Session session{platform};
   Game& game = session.game();

@@ -115,21 +115,24 @@ class Recorder : public Scripted {
 };
 
 /// Plays the commands of a recording anew. It holds a game from the program's start on, or parts
-/// behind titles, each from the first rest of a new game on.
+/// behind titles, each from the first rest of a new game on, in which the computer has other sums
+/// than the player, so that neither side's can pass for the other's.
 std::string RecordAnew(const std::string& recording) {
+  const std::vector<std::string> newGame = {
+      "click GST.CMDSTART", "set GFM.CCredit.Caption \"$1,200,000\"", "set LotValue(99) 60000"};
   struct Part {
     std::string title;
     std::vector<std::string> script;
   };
   std::vector<Part> parts(1);
   for (const std::string& line : Pieces(recording, '\n')) {
-    if (line.starts_with("== ")) parts.push_back({line + "\n", {"click GST.CMDSTART"}});
+    if (line.starts_with("== ")) parts.push_back({line + "\n", newGame});
     if (line.starts_with("> ")) parts.back().script.push_back(line.substr(2));
   }
   std::string recorded;
   for (const auto& [title, script] : parts) {
     if (script.empty()) continue;
-    Recorder game(script, title.empty() ? 0 : 1);
+    Recorder game(script, title.empty() ? 0 : newGame.size());
     game.Run();
     recorded += title + game.recorded;
   }

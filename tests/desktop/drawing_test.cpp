@@ -168,7 +168,9 @@ class Looks : public testing::Test, public DesktopGame {};
 
 TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
   StartGame();
+  View(game.GFM).resize(1000, 600);
   Exhibit(game.ICF);
+  std::string all;
   for (Control* control : std::initializer_list<Control*>{
            &game.GFM->Image1[50], &game.GFM->SUPER, &game.GFM->CMDGO, &game.GFM->Label8,
            &game.GFM->PCredit, &game.GFM->Label7[0], &game.ICF->OPT1[1], &game.ICF->CKBANK}) {
@@ -178,18 +180,27 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
       platform.Sync();
       return widget.grab().toImage();
     };
-    std::vector<QImage> looks = {look()};
+    std::vector<QImage> looks;
     const auto isNew = [&] {
       looks.push_back(look());
+      const bool gradient = control->kind() == Kind::Button;
+      all += "  " + Along(looks.back(), {5, 0}, {0, gradient ? 12 : 1}) + "\n";
       return std::count(looks.begin(), looks.end(), looks.back()) == 1;
     };
+    all += control->FullName() + "\n";
+    EXPECT_TRUE(isNew());
     control->window().inHand = control;
     EXPECT_TRUE(isNew());
     control->window().inHand = nullptr;
     widget.setAttribute(Qt::WA_UnderMouse);
     EXPECT_EQ(isNew(), widget.IsClickable());
+    const QImage hovered = looks.back();
     QTest::mousePress(&widget, Qt::LeftButton);
     EXPECT_EQ(isNew(), widget.IsClickable());
+    QEnterEvent released({}, {}, {});
+    QCoreApplication::sendEvent(&widget, &released);
+    EXPECT_EQ(look(), hovered);
+    QTest::mousePress(&widget, Qt::LeftButton);
     QTest::mouseRelease(&widget, Qt::LeftButton, {}, {-5, -5});
     widget.setAttribute(Qt::WA_UnderMouse, false);
     EXPECT_EQ(look(), looks.front());
@@ -213,6 +224,8 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
     platform.Sync();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !widget.isVisible(); }));
   }
+  test::ExpectAsRecorded("desktop/looks.txt", all,
+                         [](const std::string& line) { return line.front() != ' '; });
 }
 
 std::ostream& operator<<(std::ostream& out, const QRect& rect) {
@@ -243,8 +256,11 @@ TEST_F(Looks, WindowsAreLaidOutAsRecorded) {
         Qt::FramelessWindowHint | Qt::WindowCloseButtonHint | Qt::CustomizeWindowHint;
     all << window->name() << ", flags " << std::hex << (view.windowFlags() & ours) << std::dec
         << ", at " << view.geometry() << ", at least " << view.minimumWidth() << ' '
-        << view.minimumHeight() << ", ";
+        << view.minimumHeight() << ", ground "
+        << view.grab().toImage().pixelColor(0, 0).name().toStdString() << ", ";
     DescribeVoice(all, &view);
+    QAccessibleInterface* voice = QAccessible::queryAccessibleInterface(&view);
+    for (const int beyond : {-1, voice->childCount()}) EXPECT_EQ(voice->child(beyond), nullptr);
     for (ControlWidget* widget : view.widgets()) {
       const QRectF text(widget->TextArea().topLeft() * 10, widget->TextArea().size() * 10);
       all << "\n  " << widget->control().FullName() << " at " << widget->geometry() << ", text "

@@ -306,9 +306,11 @@ TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) 
 }
 
 TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
-  const auto choose = [this](QFileDialog::AcceptMode mode, const QString& path) {
+  const auto choose = [this](const QString& title, QFileDialog::AcceptMode mode,
+                             const QString& path) {
     auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->windowTitle(), title);
     EXPECT_EQ(dialog->acceptMode(), mode);
     EXPECT_EQ(dialog->defaultSuffix(), "zelvo");
     EXPECT_TRUE(platform.IsPaused());
@@ -318,13 +320,13 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
   };
   Run({Press(game.GST.Untouched().CMDSTART), Press(game.GFM.Untouched().Image1[0])});
   Run({Keys(Qt::Key_S)});
-  choose(QFileDialog::AcceptSave, file);
+  choose("Keep this game", QFileDialog::AcceptSave, file);
   Run({[] {}});
   EXPECT_EQ(InFile().toStdString(), List());
   const QByteArray kept = InFile();
   Run({Press(game.GFM.Untouched().Image1[5]), Keys(Qt::Key_O)});
   EXPECT_TRUE(InFile().startsWith(kept) && InFile().size() > kept.size());
-  choose(QFileDialog::AcceptOpen, "/no/such");
+  choose("Go on with a kept game", QFileDialog::AcceptOpen, "/no/such");
   ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeModalWidget() != nullptr; }));
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   ASSERT_NE(box, nullptr);

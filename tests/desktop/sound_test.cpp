@@ -1,7 +1,11 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -74,8 +78,8 @@ TEST_F(Sound, WhatHappensWhileTheGameWaitsForItComesAfterIt) {
     tickLength = 1'000'000;
   });
   sound->whileItPlays = [&later](const WaveFile& /*wave*/) { later.start(0); };
-  game.GFM->PSHOW.Caption = "Wait";
   Exhibit(game.RB);
+  game.GFM->PSHOW.Caption = "Wait";
   EXPECT_TRUE(platform.PlaySound(game.AppPath + "CLICK.WAV", true));
   EXPECT_TRUE(painted);
   EXPECT_TRUE(game.RB.Untouched().IsShown());
@@ -115,6 +119,61 @@ TEST(SoundPlayers, FindOutThatThereIsNoServerAndTellThatTheSoundIsOver) {
     ASSERT_TRUE(QTest::qWaitFor([&] { return over > 0; }));
     EXPECT_FALSE(player->IsThere() || player->IsPlaying());
   }
+}
+
+TEST(SoundPlayers, AServerHearsEverySampleOnceAndTheSoundThatReplacesAnother) {
+  const QString program = QStandardPaths::findExecutable("pulseaudio");
+  if (program.isEmpty()) GTEST_SKIP() << "there is no pulseaudio on this machine";
+  const QTemporaryDir folder;
+  const QString pipe = folder.filePath("pipe");
+  const QString socket = folder.filePath("socket");
+  qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
+  // It plays into a pipe, as fast as that is read: frames of two channels of 16 bits, or silence.
+  QProcess server;
+  server.start(program, {"-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
+                         "--load=module-pipe-sink format=s16le rate=8000 channels=2 file=" + pipe,
+                         "--load=module-native-protocol-unix auth-anonymous=1 socket=" + socket});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return QFile::exists(socket); }, 20'000));
+  const int listener = open(pipe.toLocal8Bit(), O_RDONLY | O_NONBLOCK);
+  QByteArray heard;
+  // Bounded, as there is always more silence to come.
+  const auto listen = [&] {
+    QByteArray piece(1 << 16, 0);
+    const auto length = static_cast<int>(read(listener, piece.data(), piece.size()));
+    for (int at = 0; at < length; at += 4) {
+      if (piece.mid(at, 4) != QByteArray(4, 0)) heard += piece.mid(at, 4);
+    }
+  };
+  std::atomic<int> over = 0;
+  auto player = MakeSoundPlayer([&over] { ++over; });
+  const auto play = [&](const WaveFile& wave) {
+    heard.clear();
+    over = 0;
+    player->Start(wave);
+    EXPECT_TRUE(player->IsPlaying());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listen(), over > 0; }, 20'000));
+    EXPECT_TRUE(player->IsThere() && !player->IsPlaying());
+    listen();
+    return heard;
+  };
+  QByteArray stereo;
+  for (int i = 0; i < 16'000; ++i) stereo += QByteArray::number(i, 16).rightJustified(4, '.');
+  EXPECT_EQ(play({2, 8'000, 16, stereo}), stereo);
+  EXPECT_EQ(play({1, 8'000, 8, QByteArray(1'000, '\xc0')}),
+            QByteArray("\0\x40\0\x40", 4).repeated(1'000));
+  player->Start({2, 8'000, 16, stereo});
+  EXPECT_TRUE(play({2, 8'000, 16, "last"}).endsWith("last"));
+  // A server that dies was there; for the next sound there is none.
+  for (const bool there : {true, false}) {
+    over = 0;
+    player->Start({2, 8'000, 16, QByteArray(10'000'000, 1)});
+    server.kill();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return over > 0; }, 20'000));
+    EXPECT_EQ(player->IsThere(), there);
+    EXPECT_FALSE(player->IsPlaying());
+  }
+  server.waitForFinished();
+  close(listener);
 }
 
 TEST(WaveFiles, SayHowLongTheGameWaitsForThem) {

@@ -116,11 +116,11 @@ TEST_F(OnScreen, AChangeOfPaceIsAtOnceThatOfTheTimersThatRun) {
   timer.SetInterval(10);
   timer.SetEnabled(true);
   game.Work = 0;
-  tickLength = 0;
   QCoreApplication::processEvents();
   EXPECT_EQ(game.Work, 0) << "an hour is not over";
-  platform.SetPace(2);
+  platform.SetPace(tickLength);
   EXPECT_TRUE(QTest::qWaitFor([this] { return game.Work > 0; }));
+  tickLength = 0;
   timer.SetEnabled(false);
   game.Work = 0;
   platform.SetPace(1);

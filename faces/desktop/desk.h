@@ -1,12 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "faces/desktop/pictures.h"
 #include "faces/desktop/voice.h"
 #include "surface/surface.h"
-
-class QAccessibleEvent;
 
 namespace zelvo {
 
@@ -16,9 +15,6 @@ class WindowView;
 /// game.
 class Desk {
  public:
-  /// Passes on what screen readers are to know of a control.
-  using Helpers = std::function<void(QAccessibleEvent&)>;
-
   Desk(const QString& pictureFolder, Voice::Speaker speaker, Helpers helpers)
       : pictures(pictureFolder), voice(std::move(speaker)), tellHelpers(std::move(helpers)) {}
   Desk(const Desk&) = delete;

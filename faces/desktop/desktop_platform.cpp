@@ -42,10 +42,11 @@ Machine ThisMachine(const QString& dataFolder) {
   machine.dataFolder = dataFolder;
   machine.sound = MakeSoundPlayer(WakeUp);
   machine.clock = LocalTime;
-  machine.speaker = [announcer = std::make_shared<Announcer>()](const QString& text) {
-    announcer->Say(text);
-  };
   machine.helpers = [](QAccessibleEvent& event) { QAccessible::updateAccessibility(&event); };
+  machine.speaker = [announcer =
+                         std::make_shared<Announcer>(machine.helpers)](const QString& text) {
+    if (QAccessible::isActive()) announcer->Say(text);
+  };
   machine.leave = QCoreApplication::quit;
   return machine;
 }

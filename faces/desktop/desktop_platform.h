@@ -27,7 +27,7 @@ struct Machine {
   std::unique_ptr<SoundPlayer> sound;
   std::function<TimeOfDay()> clock;
   Voice::Speaker speaker;
-  Desk::Helpers helpers;
+  Helpers helpers;
   /// The milliseconds that a timer of so many really takes.
   std::function<int(int)> tickLength = [](int interval) { return interval; };
   /// Leaves the program once the game has ended.

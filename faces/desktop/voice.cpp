@@ -38,12 +38,11 @@ void Voice::NoteAsTold(const std::vector<ControlWidget*>& widgets) {
 }
 
 void Announcer::Say(const QString& text) {
-  if (!QAccessible::isActive()) return;
   constexpr std::size_t kept = 8;
   if (utterances_.size() == kept) utterances_.pop_front();
   utterances_.push_back(std::make_unique<Utterance>(text));
   QAccessibleEvent shown(utterances_.back().get(), QAccessible::ObjectShow);
-  QAccessible::updateAccessibility(&shown);
+  tellHelpers_(shown);
 }
 
 }  // namespace zelvo

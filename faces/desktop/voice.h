@@ -6,9 +6,15 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 #include <vector>
 
+class QAccessibleEvent;
+
 namespace zelvo {
+
+/// Passes on what screen readers and other helpers are to know.
+using Helpers = std::function<void(QAccessibleEvent&)>;
 
 class ControlWidget;
 
@@ -40,9 +46,11 @@ class Utterance : public QObject {
 /// Hands what is to be said to the screen readers that listen.
 class Announcer {
  public:
+  explicit Announcer(Helpers helpers) : tellHelpers_(std::move(helpers)) {}
   void Say(const QString& text);
 
  private:
+  Helpers tellHelpers_;
   // A reader takes its time to ask for a text, so they stay for a while. It may remember what it
   // was told, so each text is a thing of its own.
   std::deque<std::unique_ptr<Utterance>> utterances_;

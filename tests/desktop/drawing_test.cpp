@@ -259,8 +259,6 @@ TEST_F(Looks, WindowsAreLaidOutAsRecorded) {
         << view.minimumHeight() << ", ground "
         << view.grab().toImage().pixelColor(0, 0).name().toStdString() << ", ";
     DescribeVoice(all, &view);
-    QAccessibleInterface* voice = QAccessible::queryAccessibleInterface(&view);
-    for (const int beyond : {-1, voice->childCount()}) EXPECT_EQ(voice->child(beyond), nullptr);
     for (ControlWidget* widget : view.widgets()) {
       const QRectF text(widget->TextArea().topLeft() * 10, widget->TextArea().size() * 10);
       all << "\n  " << widget->control().FullName() << " at " << widget->geometry() << ", text "

@@ -32,6 +32,7 @@ std::vector<QObject*> Walked(QAccessibleInterface* from) {
   std::vector<QObject*> objects = {from->object()};
   EXPECT_TRUE(from->text(QAccessible::Name).isEmpty() ||
               from->text(QAccessible::Name) != from->text(QAccessible::Description));
+  for (const int beyond : {-1, from->childCount()}) EXPECT_EQ(from->child(beyond), nullptr);
   for (int i = 0; i < from->childCount(); ++i) {
     QAccessibleInterface* part = from->child(i);
     EXPECT_EQ(from->indexOfChild(part), i);
@@ -127,6 +128,21 @@ TEST_F(Speech, HelpersHearOfANewNameAndANewTick) {
   EXPECT_EQ(after([&] { lot.Caption = "Mall"; }), renamed);
   EXPECT_TRUE(after([&] { lot.SetEnabled(false); }).empty());
   EXPECT_EQ(after([&] { box.SetValue(!box.Value()); }), ticked);
+}
+
+TEST_F(Speech, WhatIsSaidGoesToHelpersAsANotificationOfTheProgram) {
+  Texts told;
+  Announcer announcer([&told](QAccessibleEvent& event) {
+    EXPECT_EQ(event.type(), QAccessible::ObjectShow);
+    const auto objects = Walked(event.accessibleInterface());
+    EXPECT_EQ(objects.size(), 1U) << "it has no parts";
+    EXPECT_EQ(Voice(objects[0])->role(), QAccessible::Notification);
+    EXPECT_EQ(Voice(objects[0])->parent()->object(), qApp);
+    EXPECT_EQ(Text(objects[0], QAccessible::Description), "");
+    told.push_back(Text(objects[0]));
+  });
+  for (const char* text : {"One", "Two", "Two"}) announcer.Say(text);
+  EXPECT_EQ(told, Texts({"One", "Two", "Two"}));
 }
 
 TEST_F(Speech, ATurnIsToldFromBeginningToEnd) {

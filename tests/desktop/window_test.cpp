@@ -233,8 +233,9 @@ TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
     EXPECT_EQ(game.GFM->extent, extent);
     EXPECT_EQ(startWindow(), state);
   }
+  StartGame();
+  EXPECT_FALSE(View(game.GFM).isMinimized());
   // It comes back once nothing is in front of it.
-  put(Qt::WindowNoState);
   EXPECT_EQ(startWindow(), Qt::WindowMinimized);
   platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDEXIT); });
   EXPECT_EQ(startWindow(), Qt::WindowNoState);

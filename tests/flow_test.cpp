@@ -42,10 +42,10 @@ TEST(Start, TheOpeningPlaysAndTheStartWindowWaits) {
 }
 
 TEST(WaitLoops, EndWhenTheBoardGoesUnderThem) {
-  const std::string casino = Set("CasinoMeter", "19") + "clock 12:00:01\nset Generator 0\n";
-  for (const std::string& due : {casino, Set("YearTurn", "5")}) {
+  const std::string casino = "set CasinoMeter 19\nclock 12:00:01\nset Generator 0\n";
+  for (const std::string& due : {casino, std::string("set YearTurn 5\n")}) {
     const std::string turn =
-        "click GST.CMDSTART\n" + Cash("$1,000,000", "$0") + due + "click GFM.CMDGO\n";
+        "click GST.CMDSTART\nset GFM.CCredit.Caption \"$0\"\n" + due + "click GFM.CMDGO\n";
     for (int at = 1; at <= 5; ++at) {
       Watched game(turn + "get TurnNo\n");
       Game& g = game.game();

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
-#include <map>
 #include <sstream>
 
 namespace zelvo::test {
@@ -39,25 +38,6 @@ std::string Get(const std::string& names) {
   std::string script;
   for (std::string name; words >> name;) script.append("get ").append(name).append("\n");
   return script;
-}
-
-std::string Set(const std::string& name, const std::string& value) {
-  return "set " + name + " " + value + "\n";
-}
-
-std::string Cash(const std::string& player, const std::string& computer) {
-  return Set("GFM.PCredit.Caption", '"' + player + '"') +
-         Set("GFM.CCredit.Caption", '"' + computer + '"');
-}
-
-std::string Lot(int lot, const std::string& tag, const std::string& value) {
-  static const std::map<std::string, std::string> pictures = {
-      {"U", "ICF.LUND"},  {"O", "ICF.LOPEN"},  {"D", "ICF.LDIRT"},
-      {"G", "ICF.GOLF"},  {"K", "ICF.PARK"},   {"PU", "ICF.PLAYER"},
-      {"CU", "ICF.COMP"}, {"PBH", "GFM.BEST"}, {"XC", "ICF.CITY"}};
-  const std::string index = "(" + std::to_string(lot) + ")";
-  return Set("GFM.Image1" + index + ".Tag", '"' + tag + '"') +
-         Set("GFM.Image1" + index + ".Picture", pictures.at(tag)) + Set("LotValue" + index, value);
 }
 
 std::vector<std::string> Pieces(const std::string& table, char separator) {

@@ -26,12 +26,6 @@ Json Last(const std::string& script);
 /// `get` commands for the names of a text, with blanks between them.
 std::string Get(const std::string& names);
 
-std::string Set(const std::string& name, const std::string& value);
-/// Commands that put the cash of the player and of the computer.
-std::string Cash(const std::string& player, const std::string& computer);
-/// Commands that put a lot's tag with its picture, and its value.
-std::string Lot(int lot, const std::string& tag, const std::string& value);
-
 /// The pieces of a table between its separators, without blanks and line ends around them.
 std::vector<std::string> Pieces(const std::string& table, char separator = '|');
 

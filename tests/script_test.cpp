@@ -24,12 +24,12 @@ TEST(Script, LinesTellOfTheGameToTheLetter) {
                              R"("waiting":"GST"})");
   EXPECT_EQ(lines[1].dump(), R"({"time":"12:00:00.000","value":0,"waiting":"GST"})");
   EXPECT_EQ(lines[2].dump(), R"({"time":"12:00:00.000","waiting":"GST"})");
-  EXPECT_EQ(
-      Last(Lot(5, "O", "75000") + Cash("$0", "$0") + "click GFM.Image1(5)\nclick GFM.CMDBUY\n")
-          .dump(),
-      R"({"cues":[{"file":"nocomply.wav","waits":false}],"message":{"style":36,"text":"You )"
-      R"(don't have enough money ! Do you wish to borrow the money from the bank ?",)"
-      R"("title":"Bank Loan"},"time":"12:00:00.005","waiting":"message box"})");
+  EXPECT_EQ(Last("set GFM.Image1(5).Tag \"O\"\nset GFM.Image1(5).Picture ICF.LOPEN\n"
+                 "set GFM.PCredit.Caption \"$0\"\nclick GFM.Image1(5)\nclick GFM.CMDBUY\n")
+                .dump(),
+            R"({"cues":[{"file":"nocomply.wav","waits":false}],"message":{"style":36,"text":"You )"
+            R"(don't have enough money ! Do you wish to borrow the money from the bank ?",)"
+            R"("title":"Bank Loan"},"time":"12:00:00.005","waiting":"message box"})");
   EXPECT_EQ(Play("click GST.CMDEXIT\nget SkillLevel\n").back().dump(),
             R"({"cues":[{"file":"no-intel.WAV","waits":true}],"time":"12:00:00.000",)"
             R"("waiting":"ended"})");

@@ -227,7 +227,11 @@ TEST_F(KeptOnDesktop, AFileIsGoneOnWithInTheMiddleOfABlinkAndItsTornLineIsDroppe
   const auto middle = whole.indexOf("tick GFM.Timer1\n") + 16;
   PutIntoFile(whole.left(middle) + "bac");
   ASSERT_EQ(session.GoOn(file.toStdString()), "");
+  bool isHourglass = false;
+  Once([this] { return game.GFM.Untouched().IsShown(); },
+       [&] { isHourglass = QGuiApplication::overrideCursor() != nullptr; });
   Run({Press(game.GFM.Untouched().Image1[0])});
+  EXPECT_TRUE(isHourglass);
   EXPECT_TRUE(InFile().startsWith(whole.left(middle) + "back\n"));
   EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
   EXPECT_EQ(StateInScriptedProgram(), State());

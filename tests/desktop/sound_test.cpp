@@ -165,8 +165,10 @@ TEST(SoundPlayers, AServerHearsEverySampleOnceAndTheSoundThatReplacesAnother) {
   EXPECT_TRUE(play({2, 8'000, 16, "last"}).endsWith("last"));
   // A server that dies was there; for the next sound there is none.
   for (const bool there : {true, false}) {
+    heard.clear();
     over = 0;
     player->Start({2, 8'000, 16, QByteArray(10'000'000, 1)});
+    EXPECT_TRUE(!there || QTest::qWaitFor([&] { return listen(), !heard.isEmpty(); }, 20'000));
     server.kill();
     EXPECT_TRUE(QTest::qWaitFor([&] { return over > 0; }, 20'000));
     EXPECT_EQ(player->IsThere(), there);

@@ -166,6 +166,22 @@ answer yes)")) {
   }
 }
 
+TEST(KeptGames, HoldOneLineForTheSameReadingsAndAnAnswerThatFitsItsMessageBox) {
+  Scripted game(
+      "click GST.CMDSTART\nclock 12:00:30\nclick GFM.CMDGO\nclock 12:00:53\n"
+      "click GFM.CMDGO\nclock 12:00:44\nclick GFM.CMDGO\nanswer ok\n");
+  game.Lines();
+  const std::string text = TextOf(game.game(), game.journal().list());
+  EXPECT_NE(text.find("\nclock 12:00:30 7\n"), std::string::npos) << text;
+  EXPECT_EQ(ReadKeptGame(text).error, "");
+  for (const std::string other : {"answer yes", "answer no"}) {
+    std::string changed = text;
+    changed.replace(text.find("answer ok"), 9, other);
+    EXPECT_NE(ReadKeptGame(changed).error.find("does not fit the game: " + other),
+              std::string::npos);
+  }
+}
+
 TEST(KeptGames, ThatEndTheProgramCanBeGoneOnWithAheadOfTheirEnd) {
   for (const char* end : {"close GST\n", "click GST.CMDEXIT\nsound yes\n"}) {
     const KeptGame kept =

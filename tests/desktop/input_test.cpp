@@ -121,8 +121,10 @@ TEST_F(Input, OnlyACloseBoxCloses) {
   }
   View(game.GFM).close();
   EXPECT_FALSE(game.GFM.Untouched().IsLoaded());
+  EXPECT_EQ(timesLeft, 0);
   View(game.GST).close();
   EXPECT_TRUE(game.HasEnded());
+  EXPECT_EQ(timesLeft, 1);
   EXPECT_FALSE(View(game.GFM).isVisible() || View(game.GST).isVisible());
 }
 

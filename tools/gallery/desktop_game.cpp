@@ -87,7 +87,7 @@ Machine DesktopGame::TestMachine() {
     return now;
   };
   machine.tickLength = [this](int) { return tickLength; };
-  machine.leave = [] {};
+  machine.leave = [this] { ++timesLeft; };
   machine.speaker = [this](const QString& text) { spoken.push_back(text.toStdString()); };
   machine.helpers = [this](const QAccessibleEvent& event) {
     helpersHeard.emplace_back(event.object(), event.type());

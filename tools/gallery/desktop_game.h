@@ -48,6 +48,7 @@ class DesktopGame {
   std::function<void()> whenClockIsRead;
   int tickLength = 0;  ///< milliseconds of any timer's interval
   SilentPlayer* sound = nullptr;
+  int timesLeft = 0;  ///< how often the game left the program
   std::vector<std::string> spoken;
   std::vector<std::pair<QObject*, QAccessible::Event>> helpersHeard;
   DesktopPlatform platform;

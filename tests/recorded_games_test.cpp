@@ -116,10 +116,12 @@ class Recorder : public Scripted {
 
 /// Plays the commands of a recording anew. It holds a game from the program's start on, or parts
 /// behind titles, each from the first rest of a new game on, in which the computer has other sums
-/// than the player, so that neither side's can pass for the other's.
+/// than the player, so that neither side's can pass for the other's, and no working sum is empty,
+/// so that a rule that takes one for empty is seen.
 std::string RecordAnew(const std::string& recording) {
-  const std::vector<std::string> newGame = {
-      "click GST.CMDSTART", "set GFM.CCredit.Caption \"$1,200,000\"", "set LotValue(99) 60000"};
+  const auto newGame = Pieces(
+      "click GST.CMDSTART | set GFM.CCredit.Caption \"$1,200,000\" | "
+      "set LotValue(99) 60000 | set Tally 12 | set Idx 14 | set WorkWorth 15");
   struct Part {
     std::string title;
     std::vector<std::string> script;

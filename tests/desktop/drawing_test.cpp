@@ -130,6 +130,7 @@ TEST(Drawing, TextsStandWhereTheirLookPutsThem) {
   const QRect vertical = Ink({.letterHeight = 150, .vertical = true}, "HH");
   EXPECT_EQ(vertical.size(), left.size().transposed());
   EXPECT_GT(vertical.bottom(), 55);
+  EXPECT_NEAR(vertical.center().x(), 49, 3);
   // What is too long for a line is broken, and what is too long for the area becomes smaller.
   EXPECT_GT(Ink({.letterHeight = 150}, "HHHH HHHH HHHH").height(), 2 * left.height());
   EXPECT_LT(Ink({.letterHeight = 900}, "HHHH").width(), 100);

@@ -1,5 +1,6 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -10,6 +11,7 @@
 #include <QTest>
 #include <QTimer>
 #include <atomic>
+#include <csignal>
 #include <tuple>
 
 #include "faces/desktop/sound_player.h"
@@ -130,6 +132,12 @@ TEST(SoundPlayers, AServerHearsEverySampleOnceAndTheSoundThatReplacesAnother) {
   qputenv("PULSE_SERVER", "unix:" + socket.toLocal8Bit());
   // It plays into a pipe, as fast as that is read: frames of two channels of 16 bits, or silence.
   QProcess server;
+  auto environment = QProcessEnvironment::systemEnvironment();
+  for (const char* name : {"HOME", "XDG_RUNTIME_DIR", "XDG_CONFIG_HOME"}) {
+    environment.insert(name, folder.path());
+  }
+  server.setProcessEnvironment(environment);
+  server.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
   server.start(program, {"-n", "--daemonize=no", "--use-pid-file=no", "--exit-idle-time=-1",
                          "--load=module-pipe-sink format=s16le rate=8000 channels=2 file=" + pipe,
                          "--load=module-native-protocol-unix auth-anonymous=1 socket=" + socket});

@@ -317,6 +317,7 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
     EXPECT_EQ(dialog->windowTitle(), title);
     EXPECT_EQ(dialog->acceptMode(), mode);
     EXPECT_EQ(dialog->defaultSuffix(), "zelvo");
+    EXPECT_EQ(dialog->nameFilters().first(), "Kept games (*.zelvo)");
     EXPECT_TRUE(platform.IsPaused());
     Keys(Qt::Key_Z)();  // which would take back
     dialog->fileSelected(path);

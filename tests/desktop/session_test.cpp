@@ -337,6 +337,7 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
   ASSERT_NE(box, nullptr);
   EXPECT_EQ(box->text(), "/no/such cannot be read: No such file or directory.");
   EXPECT_EQ(box->icon(), QMessageBox::Warning);
+  EXPECT_EQ(box->windowTitle(), "Zelvo");
   box->accept();
   EXPECT_FALSE(platform.IsPaused());
 }

@@ -109,6 +109,32 @@ TEST_F(OnScreen, ARefreshPaintsAtOnceWhatTheDataHolds) {
   EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, "Now");
 }
 
+TEST_F(OnScreen, WhatLooksOtherwiseIsPaintedAnew) {
+  StartGame();
+  Control& lot = game.GFM->Image1[5];
+  ControlWidget& widget = Widget(lot);
+  PaintCount paint;
+  widget.installEventFilter(&paint);
+  const auto paints = [&](const std::function<void()>& deed) {
+    QCoreApplication::processEvents();
+    paint.paints = 0;
+    deed();
+    QCoreApplication::processEvents();
+    return paint.paints > 0;
+  };
+  EXPECT_FALSE(paints([&] { platform.Sync(); }));
+  EXPECT_TRUE(paints([&] { QTest::mousePress(&widget, Qt::LeftButton); }));
+  EXPECT_TRUE(paints([&] { QTest::mouseRelease(&widget, Qt::LeftButton, {}, {-5, -5}); }));
+  EXPECT_TRUE(paints([&] {
+    lot.Picture = PictureId::ICF_MALL;
+    platform.Sync();
+  }));
+  EXPECT_TRUE(paints([&] {
+    widget.setFocus();
+    QTest::keyClick(&widget, Qt::Key_Shift);
+  }));
+}
+
 TEST_F(OnScreen, AChangeOfPaceIsAtOnceThatOfTheTimersThatRun) {
   StartGame();
   tickLength = 3'600'000;

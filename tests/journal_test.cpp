@@ -1,9 +1,11 @@
 #include "journal/journal.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -291,6 +293,18 @@ TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
   const std::string longText(200'000, 'x');
   EXPECT_EQ(ReplaceFile(file, longText), 0);
   EXPECT_EQ(text(), longText);
+  // What could be written in part alone leaves nothing behind.
+  const auto files = std::distance(std::filesystem::directory_iterator(folder.path), {});
+  rlimit most{};
+  getrlimit(RLIMIT_FSIZE, &most);
+  const rlimit little{1'000, most.rlim_max};
+  const auto before = std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &little);
+  EXPECT_EQ(ReplaceFile(file, "x" + longText), EFBIG);
+  setrlimit(RLIMIT_FSIZE, &most);
+  std::signal(SIGXFSZ, before);
+  EXPECT_EQ(text(), longText);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), files);
   other.Close();
   EXPECT_EQ(OpenHandles(), handles);
 }

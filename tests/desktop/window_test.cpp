@@ -247,6 +247,9 @@ TEST_F(OnScreen, NoLineOfAMessageHoldsALonelyMark) {
 
 TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
   StartGame();
+  game.GFM->Caption = "News";
+  View(game.GFM).resize(700, 500);
+  EXPECT_EQ(game.GFM->Caption, "Board Game") << "the game hears of each new size";
   const auto put = [this](Qt::WindowState state) {
     View(game.GFM).setWindowState(state);
     QCoreApplication::processEvents();  // the desktop confirms it

@@ -25,12 +25,6 @@ std::string Told(const std::string& script) {
   return told;
 }
 
-std::string Times(int count, const std::string& command) {
-  std::string script;
-  for (int i = 0; i < count; ++i) script += command + "\n";
-  return script;
-}
-
 Json Last(const std::string& script) { return Play("click GST.CMDSTART\n" + script).back(); }
 
 std::string Get(const std::string& names) {

@@ -17,9 +17,6 @@ std::vector<Json> Play(const std::string& script);
 /// as in "$1,000 | CU | -1"; a command with an error fails the test.
 std::string Told(const std::string& script);
 
-/// The same command a number of times.
-std::string Times(int count, const std::string& command);
-
 /// The last line of a script that is played in a new game, as that of `Told` is.
 Json Last(const std::string& script);
 

@@ -11,12 +11,6 @@ TEST(Script, ALineThatIsNoTextOrTooLongGetsAnError) {
   EXPECT_TRUE(Play("get " + std::string(100'000, 'x') + "\n").back().contains("error"));
 }
 
-TEST(Script, TheSameScriptGivesTheSameLinesTwice) {
-  const std::string turn = "click GFM.CMDGO\nclick ML.CMD1(1)\nanswer no\nclick SV.CMDOK\nstate";
-  const std::string script = "click GST.CMDSTART\n" + Times(40, turn);
-  EXPECT_EQ(Play(script), Play(script));
-}
-
 TEST(Script, LinesTellOfTheGameToTheLetter) {
   const auto lines = Play("\xEF\xBB\xBF# nothing\n   \n\t get  SkillLevel \r\nquit\nget Skill");
   ASSERT_EQ(lines.size(), 3U) << "blank lines, remarks and the mark at the start have no answer";

@@ -27,6 +27,9 @@ class Desk {
   virtual void Deliver(const std::function<void(Surface&)>& event,
                        const void* subject = nullptr) = 0;
 
+  /// False while the game is at work and does not yield.
+  virtual bool Listens() const = 0;
+
   /// The window in front, as the game put them; null while none is shown.
   virtual WindowView* Front() const = 0;
 

@@ -106,7 +106,7 @@ void DesktopPlatform::OpenAndCloseWindows() {
 }
 
 WindowView* DesktopPlatform::Front() const {
-  return surface_->Stack().empty() ? nullptr : ViewOf(*surface_->Stack().back());
+  return HasEnded() || surface_->Stack().empty() ? nullptr : ViewOf(*surface_->Stack().back());
 }
 
 /// Brings what was held to the event loop.
@@ -116,7 +116,7 @@ struct DesktopPlatform::ReleasedEvent : QEvent {
 };
 
 bool DesktopPlatform::Listens() const {
-  return !waitsForSound_ && !syncing_ && !paused_ && surface_->IsOpen();
+  return !HasEnded() && !waitsForSound_ && !syncing_ && !paused_ && surface_->IsOpen();
 }
 
 void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event, const void* subject) {
@@ -188,7 +188,7 @@ void DesktopPlatform::TellExtents() {
 /// Puts what was held ahead of all that comes next. Each is an event of its own: the game may yield
 /// in the middle of one.
 void DesktopPlatform::ReleaseHeld() {
-  if (HasEnded() || !Listens()) return;
+  if (!Listens()) return;
   for (const Held& held : std::exchange(held_, {})) {
     QCoreApplication::postEvent(this, new ReleasedEvent(held));
   }

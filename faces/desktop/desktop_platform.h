@@ -82,6 +82,7 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void End() override;
 
   void Deliver(const std::function<void(Surface&)>& event, const void* subject = nullptr) override;
+  bool Listens() const override;
   WindowView* Front() const override;
 
  protected:
@@ -99,7 +100,6 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   void OpenAndCloseWindows();
   void LoseWindow(WId id);
   void Tick(Control& timer);
-  bool Listens() const;
   void ReleaseHeld();
   void ProcessEvents(QEventLoop::ProcessEventsFlags flags);
   void WaitForSound(std::chrono::milliseconds longest);

@@ -333,6 +333,10 @@ void WindowView::mouseReleaseEvent(QMouseEvent* event) {
 /// A click that was held while the game was at work is for what the player saw then. Clicks out of
 /// impatience on "Start Game" are to start one game.
 void WindowView::DeliverClick(const std::function<void(Surface&)>& click) {
+  // A window takes its time to come up, and a click on the one behind it can raise that again.
+  WindowView* front = desk_.Front();
+  const bool isBehind = front != nullptr && front != this;
+  if (isBehind && !desk_.Listens()) return front->BringToFront();
   desk_.Deliver([this, click, fronts = desk_.fronts](Surface& surface) {
     if (fronts == desk_.fronts) click(surface);
   });

@@ -60,6 +60,8 @@ TEST_F(Sound, OneThatNeverEndsIsWaitedForNoLongerThanItsFileIsLong) {
 
 TEST_F(Sound, WhatHappensWhileTheGameWaitsForItComesAfterIt) {
   StartGame();
+  Exhibit(game.RB);
+  game.Show(game.GFM);  // in front of it again
   game.Yield();
   game.Work = 0;
   game.GFM->Timer1.SetInterval(10);
@@ -80,7 +82,6 @@ TEST_F(Sound, WhatHappensWhileTheGameWaitsForItComesAfterIt) {
     tickLength = 1'000'000;
   });
   sound->whileItPlays = [&later](const WaveFile& /*wave*/) { later.start(0); };
-  Exhibit(game.RB);
   game.GFM->PSHOW.Caption = "Wait";
   EXPECT_TRUE(platform.PlaySound(game.AppPath + "CLICK.WAV", true));
   EXPECT_TRUE(painted);
@@ -93,6 +94,19 @@ TEST_F(Sound, WhatHappensWhileTheGameWaitsForItComesAfterIt) {
   EXPECT_EQ(game.GST->extent, Extent::Maximised);
 }
 
+/// Does something as the board is about to be painted for the first time.
+struct ComingBoard : QObject {
+  explicit ComingBoard(std::function<void()> theDeed) : deed(std::move(theDeed)) {}
+  bool eventFilter(QObject* object, QEvent* event) override {
+    auto* view = dynamic_cast<WindowView*>(object);
+    const bool isBoard = view != nullptr && view->window().name() == "GFM";
+    if (isBoard && event->type() == QEvent::Paint && !std::exchange(isThere, true)) deed();
+    return false;
+  }
+  std::function<void()> deed;
+  bool isThere = false;
+};
+
 TEST_F(Sound, ImpatientClicksWhileItSoundsStartOneGame) {
   sound->looksWhilePlaying = 1;
   QTimer later;
@@ -101,12 +115,16 @@ TEST_F(Sound, ImpatientClicksWhileItSoundsStartOneGame) {
     for (int click = 0; click < 3; ++click) {
       QTest::mouseClick(&Widget(game.GST->CMDSTART), Qt::LeftButton);
     }
-    sound->whileItPlays = nullptr;
   });
   sound->whileItPlays = [&later](const WaveFile& /*wave*/) { later.start(0); };
   platform.PlaySound(game.AppPath + "ZELVO.WAV", true);
   sound->started = 0;
-  for (int look = 0; look < 3; ++look) game.Yield();
+  sound->whileItPlays = nullptr;
+  // And one more while the board is on its way to the screen.
+  ComingBoard coming([this] { QTest::mouseClick(&Widget(game.GST->CMDSTART), Qt::LeftButton); });
+  qApp->installEventFilter(&coming);
+  for (int look = 0; look < 5; ++look) game.Yield();
+  EXPECT_TRUE(coming.isThere);
   EXPECT_EQ(sound->started, 1);
 }
 

@@ -171,17 +171,6 @@ TEST(Windows, NoTwoThingsToClickOverlap) {
   }
 }
 
-TEST(Windows, NoLotLiesUnderAStreet) {
-  Machine machine;
-  GFMWindow& board = machine.game().GFM.Untouched();
-  for (const Control* strip : board.controls()) {
-    if (strip->name() != "Label6" && strip->name() != "Label7") continue;
-    for (const Control& lot : board.Image1) {
-      EXPECT_FALSE(Overlap(lot.Place(), strip->Place())) << lot.FullName() << strip->FullName();
-    }
-  }
-}
-
 /// What the windows raised, in order.
 std::string raised;
 

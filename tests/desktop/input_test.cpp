@@ -79,6 +79,8 @@ TEST_F(Input, TheSecondClickOfADoubleClickDoesNotReachWhatWasHiddenSinceTheFirst
     doubleClick(game.GFM->CMDGO);
     EXPECT_EQ(game.TurnNo, turn);
   }
+  Press(game.GFM->CMDGO);
+  EXPECT_EQ(game.TurnNo, 4) << "a click of its own counts again";
   // Also where both clicks had to wait for a sound.
   sound->isThere = true;
   sound->looksWhilePlaying = 1;
@@ -87,9 +89,9 @@ TEST_F(Input, TheSecondClickOfADoubleClickDoesNotReachWhatWasHiddenSinceTheFirst
   QObject::connect(&later, &QTimer::timeout, [&] { doubleClick(game.GFM->CMDGO); });
   later.start(0);
   platform.PlaySound(game.AppPath + "CLICK.WAV", true);
-  EXPECT_EQ(game.TurnNo, 3);
-  for (int look = 0; look < 3; ++look) game.Yield();
   EXPECT_EQ(game.TurnNo, 4);
+  for (int look = 0; look < 3; ++look) game.Yield();
+  EXPECT_EQ(game.TurnNo, 5);
 }
 
 TEST_F(Input, OptionsFormAGroupAndBoxesAreTicked) {
@@ -121,7 +123,6 @@ TEST_F(Input, OnlyACloseBoxCloses) {
   }
   View(game.GFM).close();
   EXPECT_FALSE(game.GFM.Untouched().IsLoaded());
-  EXPECT_EQ(timesLeft, 0);
   View(game.GST).close();
   EXPECT_TRUE(game.HasEnded());
   EXPECT_EQ(timesLeft, 1);

@@ -218,6 +218,17 @@ TEST_F(KeptOnDesktop, NothingOfAGameReachesTheOneThatComesInItsPlace) {
   platform.Pause(false);
   Run({[] {}});
   EXPECT_FALSE(reached);
+  // An open message box goes with its game.
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  Once([box] { return box() != nullptr; }, [this] { session.TakeBack(); });
+  platform.MessageBox("Two", MessageStyle::Ok, "Zelvo");
+  // What comes in the place of the same game comes to the front as well.
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  const int fronts = platform.fronts;
+  ASSERT_EQ(session.GoOn(file.toStdString()), "");
+  Run({[] {}});
+  EXPECT_GT(platform.fronts, fronts);
 }
 
 TEST_F(KeptOnDesktop, AFileIsGoneOnWithInTheMiddleOfABlinkAndItsTornLineIsDropped) {

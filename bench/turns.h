@@ -1,7 +1,7 @@
 #pragma once
 
-#include "faces/headless/auto_player.h"
 #include "game/lots.h"
+#include "tests/auto_player.h"
 
 /// What the turns are that benchmarks play.
 namespace zelvo {

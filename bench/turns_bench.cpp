@@ -5,10 +5,10 @@
 
 #include "bench/turns.h"
 #include "events/board_event.h"
-#include "faces/headless/auto_player.h"
 #include "faces/headless/stream_game.h"
 #include "game/lots.h"
 #include "journal/journal.h"
+#include "tests/auto_player.h"
 
 namespace zelvo {
 namespace {

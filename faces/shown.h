@@ -10,7 +10,7 @@ namespace zelvo {
 struct Shown {
   std::string caption;
   std::string text;
-  PictureId picture = PictureId::None;
+  PictureId picture{};
   bool enabled = true;
   bool value = false;
   bool visible = false;  ///< and all panels around it as well

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "faces/headless/auto_player.h"
 #include "fuzz/invariants.h"
+#include "tests/auto_player.h"
 
 namespace zelvo {
 namespace {

@@ -158,7 +158,7 @@ constexpr WindowRow windowRows[] = {
 
 }  // namespace
 
-Game::Game(Platform& platform) : Surface(platform) {
+Game::Game(Platform& platform) : GameWindows(platform) {
   for (const WindowRow& row : windowRows) FindWindow(row.window)->handlers = row.handlers;
   for (const ControlRow& row : controlRows) {
     for (Control* control : FindWindow(row.window)->controls()) {

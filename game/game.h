@@ -2,13 +2,13 @@
 
 #include "game/random.h"
 #include "game/variables.h"
-#include "surface/surface.h"
+#include "surface/windows/windows.h"
 
 namespace zelvo {
 
 /// The whole state of a running program: the shared variables, the windows and the generator. The
 /// rules are free functions over it; a program can hold any number of games.
-class Game : public Surface, public ProgramVariables, public GameVariables {
+class Game : public GameWindows, public ProgramVariables, public GameVariables {
  public:
   /// Ties the controls and windows to their handlers; shows nothing yet.
   explicit Game(Platform& platform);

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "game/currency.h"
-#include "surface/windows.h"
+#include "surface/windows/windows.h"
 
 namespace zelvo {
 

@@ -78,7 +78,7 @@ std::string NameOf(Surface& surface, const Entry& entry) {
 class Reader {
  public:
   explicit Reader(Surface& surface) {
-    const auto windows = surface.Windows();
+    const auto& windows = surface.Windows();
     for (std::size_t w = 0; w < windows.size(); ++w) {
       const std::string window(windows[w]->name());
       targets_[window] = {static_cast<std::uint8_t>(w), Entry::noControl, windows[w], nullptr};
@@ -180,7 +180,7 @@ std::string WhyNoList(std::string_view text) {
 Entry EntryOf(Surface& surface, const Deed& deed) {
   Entry entry;
   entry.kind = static_cast<Entry::Kind>(deed.kind);
-  const auto windows = surface.Windows();
+  const auto& windows = surface.Windows();
   const auto window = std::find(windows.begin(), windows.end(), deed.window);
   entry.window = static_cast<std::uint8_t>(window - windows.begin());
   if (deed.control != nullptr) {

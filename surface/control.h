@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "surface/picture.h"
+#include "surface/picture_id.h"
 
 namespace zelvo {
 
@@ -78,7 +78,7 @@ struct Handlers {
   Function mouseMove = nullptr;
   Function timer = nullptr;
   /// Clicks that arrive while another handler runs are dropped: the rules behind these controls
-  /// count on the lot in hand to stay put while they run.
+  /// count on what they work on to stay put while they run.
   bool dropsClicksWhileBusy = false;
 };
 
@@ -90,7 +90,7 @@ struct ControlDesign {
   bool enabled = true;
   bool value = false;
   int interval = 0;  ///< milliseconds
-  PictureId picture = PictureId::None;
+  PictureId picture{};
   Look look = {};
   /// What the control is, told ahead of what it shows, as in "Player's credit".
   std::string_view label = {};
@@ -111,7 +111,7 @@ class Control {
 
   // The tag and the picture come first: the rules scan them for a hundred lots at a time.
   std::string Tag;
-  PictureId Picture = PictureId::None;
+  PictureId Picture{};
   bool Visible = true;
   std::string Caption;
   std::string Text;

@@ -47,7 +47,8 @@ std::string AllOf(const Window& window, Speech speech) {
 std::string SpokenContent(const Control& control) {
   if (!control.design().words.empty()) return std::string(control.design().words);
   const std::string caption = OneLine(control.Caption);
-  return caption.empty() ? std::string(PictureMeaning(control.Picture)) : caption;
+  return caption.empty() ? std::string(control.window().surface().MeaningOf(control.Picture))
+                         : caption;
 }
 
 std::string SpokenName(const Control& control) {

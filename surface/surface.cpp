@@ -24,14 +24,8 @@ class Surface::Wait {
   const Window* awaited_;
 };
 
-std::array<Window*, 13> Surface::Windows() {
-  return {&GST.Untouched(), &GFM.Untouched(), &ICF.Untouched(), &TT.Untouched(), &WINX.Untouched(),
-          &HH.Untouched(),  &HS.Untouched(),  &SV.Untouched(),  &RB.Untouched(), &ML.Untouched(),
-          &CHN.Untouched(), &BK.Untouched(),  &ABT.Untouched()};
-}
-
-Window* Surface::FindWindow(std::string_view name) {
-  for (Window* window : Windows()) {
+Window* Surface::FindWindow(std::string_view name) const {
+  for (Window* window : windows_) {
     if (window->name() == name) return window;
   }
   return nullptr;
@@ -157,12 +151,14 @@ bool Surface::IsOpen() const {
   return running_ == waiting_ && (awaited_ == nullptr || awaited_->IsShown());
 }
 
-Window* Surface::InputWindow() {
+Window* Surface::InputWindow() const {
   for (std::size_t i = modals_.size(); i-- > 0;) {
     if (modals_[i]->IsShown()) return modals_[i];
   }
-  if (GFM.Untouched().IsShown()) return &GFM.Untouched();
-  return GST.Untouched().IsShown() ? &GST.Untouched() : nullptr;
+  for (std::size_t i = windows_.size(); i-- > 0;) {
+    if (windows_[i]->design().isMain && windows_[i]->IsShown()) return windows_[i];
+  }
+  return nullptr;
 }
 
 std::string_view Surface::WhyNoInput(Window& window) {
@@ -170,9 +166,9 @@ std::string_view Surface::WhyNoInput(Window& window) {
   if (!window.IsShown()) return "the window is not shown";
   if (!IsOpen()) return "the game is at work";
   if (messageBoxes_ > 0) return "a message box keeps the window from input";
-  // The board and the start window are both live as long as no modal window is up.
+  // The main windows are all live as long as no modal window is up.
   const Window* input = InputWindow();
-  const bool modal = input != &GFM.Untouched() && input != &GST.Untouched();
+  const bool modal = input == nullptr || !input->design().isMain;
   if (modal) return input == &window ? "" : "a modal window keeps the window from input";
   return running_ < deepest ? "" : "too many handlers are running";
 }

@@ -1,18 +1,17 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "surface/deed.h"
 #include "surface/platform.h"
-#include "surface/windows.h"
+#include "surface/window.h"
 
 namespace zelvo {
 
-/// The thirteen windows, their life, and the way of the player's input to the handlers. `Game`
-/// derives from it, so that a rule reads `g.GFM->PCredit.Caption`.
+/// The windows of a program, their life, and the way of the player's input to the handlers. The
+/// windows themselves are members of what derives from it.
 class Surface {
  public:
   explicit Surface(Platform& platform) : platform_(platform) {}
@@ -20,28 +19,16 @@ class Surface {
   Surface& operator=(const Surface&) = delete;
   virtual ~Surface() = default;
 
-  WindowSlot<GSTWindow> GST{*this};
-  WindowSlot<GFMWindow> GFM{*this};
-  WindowSlot<ICFWindow> ICF{*this};
-  WindowSlot<TTWindow> TT{*this};
-  WindowSlot<WINXWindow> WINX{*this};
-  WindowSlot<HHWindow> HH{*this};
-  WindowSlot<HSWindow> HS{*this};
-  WindowSlot<SVWindow> SV{*this};
-  WindowSlot<RBWindow> RB{*this};
-  WindowSlot<MLWindow> ML{*this};
-  WindowSlot<CHNWindow> CHN{*this};
-  WindowSlot<BKWindow> BK{*this};
-  WindowSlot<ABTWindow> ABT{*this};
-
   Platform& platform() const { return platform_; }
-  /// All windows, loaded or not.
-  std::array<Window*, 13> Windows();
+  /// All windows, loaded or not, in the order in which they were made.
+  const std::vector<Window*>& Windows() const { return windows_; }
   /// The window of that name; null if there is none.
-  Window* FindWindow(std::string_view name);
+  Window* FindWindow(std::string_view name) const;
+  /// What a picture shows, in words for those who do not see it; empty for none.
+  virtual std::string_view MeaningOf(PictureId picture) const = 0;
 
-  /// The program's start: loads the start window, which shows itself and plays the opening.
-  void Start() { Load(GST); }
+  /// The program's start: loads the first window.
+  virtual void Start() = 0;
 
   // The life of a window.
 
@@ -89,9 +76,9 @@ class Surface {
   /// True while deeds and ticks are let in: no handler runs but those that wait. A wait for a modal
   /// window is over when the window is no longer shown, even if its platform has not yet returned.
   bool IsOpen() const;
-  /// The window that takes input: the innermost modal one, else the board, else the start window.
-  /// Null while nothing is shown.
-  Window* InputWindow();
+  /// The window that takes input: the innermost modal one, else the main window that was made last.
+  /// Null while none of these is shown.
+  Window* InputWindow() const;
   /// Why the window or control takes no input now, in plain words; empty if it does.
   std::string_view WhyNoInput(Window& window);
   std::string_view WhyNoInput(Control& control);
@@ -114,14 +101,15 @@ class Surface {
   bool WillTick(const Control& timer) const { return !ended_ && timer.Ticks(); }
 
  protected:
-  /// How deep handlers may run on top of one another before the board and the start window refuse
-  /// input. No player comes near it; it keeps a script from exhausting the stack.
+  /// How deep handlers may run on top of one another before the main windows refuse input. No
+  /// player comes near it; it keeps a script from exhausting the stack.
   static constexpr int deepest = 60;
 
   /// The game that the handlers work on.
   virtual Game& Self() = 0;
 
  private:
+  friend class Window;
   class Wait;
 
   /// Runs a handler of the window, if there is one.
@@ -132,6 +120,7 @@ class Surface {
   void TakeOffStack(Window& window);
 
   Platform& platform_;
+  std::vector<Window*> windows_;
   std::vector<Window*> modals_;  // outermost first; one that is hidden may still be ending
   std::vector<Window*> stack_;
   int broughtToFront_ = 0;

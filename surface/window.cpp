@@ -6,7 +6,9 @@ namespace zelvo {
 
 // A design is copied once a window, at the program's start.
 // NOLINTNEXTLINE(modernize-pass-by-value)
-Window::Window(Surface& surface, const WindowDesign& design) : surface_(surface), design_(design) {}
+Window::Window(Surface& surface, const WindowDesign& design) : surface_(surface), design_(design) {
+  surface.windows_.push_back(this);
+}
 
 bool Window::HasCloseBox() const {
   return design_.titleBar == TitleBar::Sizable || design_.titleBar == TitleBar::CloseOnly;

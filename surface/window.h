@@ -41,6 +41,8 @@ struct WindowDesign {
   /// What the window is, for those who do not see it; empty where its title says it.
   std::string_view label = {};
   TallDesign tall = {};
+  /// It takes input whenever no modal window is up.
+  bool isMain = false;
 };
 
 /// The functions that a window raises in its life, from the table of events; null where there is
@@ -63,8 +65,8 @@ struct NamedControl {
   int index = Control::noIndex;
 };
 
-/// A window with its controls, as plain data. Each of the thirteen windows derives from it and has
-/// its controls as members.
+/// A window with its controls, as plain data. Each window of a program derives from it and has its
+/// controls as members.
 class Window {
  public:
   Window(Surface& surface, const WindowDesign& design);
@@ -77,8 +79,8 @@ class Window {
   /// A control of another window that the player is to see while this one is shown, or null: a face
   /// places the window beside it.
   const Control* keepsClearOf = nullptr;
-  /// The picture of an array that the player clicked last, such as the lot that the buttons are
-  /// for; null if there is none, and once the game has begun to show something.
+  /// The picture of an array that the player clicked last, which the buttons are for; null if there
+  /// is none, and once the game has begun to show something.
   const Control* inHand = nullptr;
 
   const WindowDesign& design() const { return design_; }
@@ -93,6 +95,7 @@ class Window {
   const std::vector<Control*>& controls() const { return controls_; }
   /// The control of that full name, as in "Image1(37)"; null if there is none.
   Control* Find(std::string_view fullName) const;
+  Surface& surface() const { return surface_; }
   Platform& platform() const;
 
   WindowHandlers handlers;

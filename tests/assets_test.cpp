@@ -11,7 +11,7 @@
 #include <string>
 
 #include "presentation/cues.h"
-#include "surface/picture.h"
+#include "surface/windows/picture.h"
 
 namespace zelvo {
 namespace {

@@ -13,8 +13,8 @@
 #include <random>
 
 #include "faces/game_file.h"
-#include "faces/headless/state.h"
 #include "faces/kept_game.h"
+#include "faces/scripted/state.h"
 #include "tests/play.h"
 
 namespace zelvo::test {

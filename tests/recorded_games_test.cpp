@@ -6,7 +6,7 @@
 #include <regex>
 #include <set>
 
-#include "faces/headless/variables.h"
+#include "faces/scripted/variables.h"
 #include "presentation/cues.h"
 #include "tests/play.h"
 #include "tests/recorded.h"

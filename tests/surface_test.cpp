@@ -3,8 +3,8 @@
 #include <functional>
 #include <set>
 
-#include "faces/headless/auto_player.h"
 #include "surface/speech.h"
+#include "tests/auto_player.h"
 #include "tests/play.h"
 #include "tests/recorded.h"
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "faces/headless/json_text.h"
+#include "faces/scripted/json_text.h"
 #include "presentation/cues.h"
 #include "surface/speech.h"
 

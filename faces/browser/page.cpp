@@ -4,8 +4,9 @@
 
 #include "faces/browser/design.h"
 #include "faces/browser/host.h"
-#include "faces/headless/json_text.h"
+#include "faces/scripted/json_text.h"
 #include "surface/speech.h"
+#include "surface/windows/picture.h"
 
 namespace zelvo {
 namespace {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "faces/browser/page.h"
-#include "faces/headless/scripted_game.h"
+#include "faces/scripted/scripted_game.h"
 
 namespace zelvo {
 

@@ -4,8 +4,8 @@
 
 #include "faces/browser/host.h"
 #include "faces/browser/input.h"
-#include "faces/headless/state.h"
 #include "faces/kept_game.h"
+#include "faces/scripted/state.h"
 
 namespace zelvo {
 

@@ -6,7 +6,7 @@
 #include <map>
 #include <set>
 
-#include "surface/picture.h"
+#include "surface/windows/picture.h"
 
 class QSvgRenderer;
 

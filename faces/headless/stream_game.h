@@ -3,7 +3,7 @@
 #include <istream>
 #include <ostream>
 
-#include "faces/headless/scripted_game.h"
+#include "faces/scripted/scripted_game.h"
 
 namespace zelvo {
 

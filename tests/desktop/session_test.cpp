@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "faces/game_file.h"
-#include "faces/headless/state.h"
 #include "faces/kept_game.h"
+#include "faces/scripted/state.h"
 #include "tests/desktop/player.h"
 
 namespace zelvo {

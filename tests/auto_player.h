@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "faces/headless/virtual_platform.h"
+#include "faces/scripted/virtual_platform.h"
 #include "game/game.h"
 
 namespace zelvo {

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "faces/deed.h"
-#include "faces/headless/virtual_platform.h"
+#include "faces/scripted/virtual_platform.h"
 #include "game/game.h"
 #include "journal/journal.h"
 

@@ -1,8 +1,8 @@
-#include "faces/headless/state.h"
+#include "faces/scripted/state.h"
 
-#include "faces/headless/json_text.h"
-#include "faces/headless/properties.h"
-#include "faces/headless/variables.h"
+#include "faces/scripted/json_text.h"
+#include "faces/scripted/properties.h"
+#include "faces/scripted/variables.h"
 
 namespace zelvo {
 namespace {

@@ -1,8 +1,8 @@
-#include "faces/headless/variables.h"
+#include "faces/scripted/variables.h"
 
 #include <charconv>
 
-#include "faces/headless/json_text.h"
+#include "faces/scripted/json_text.h"
 
 namespace zelvo {
 namespace {

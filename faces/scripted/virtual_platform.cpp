@@ -1,4 +1,4 @@
-#include "faces/headless/virtual_platform.h"
+#include "faces/scripted/virtual_platform.h"
 
 namespace zelvo {
 

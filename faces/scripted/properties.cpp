@@ -1,9 +1,10 @@
-#include "faces/headless/properties.h"
+#include "faces/scripted/properties.h"
 
 #include <array>
 #include <initializer_list>
 
-#include "faces/headless/json_text.h"
+#include "faces/scripted/json_text.h"
+#include "surface/windows/picture.h"
 
 namespace zelvo {
 namespace {

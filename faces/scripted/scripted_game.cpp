@@ -1,14 +1,14 @@
-#include "faces/headless/scripted_game.h"
+#include "faces/scripted/scripted_game.h"
 
 #include <algorithm>
 #include <array>
 #include <utility>
 
-#include "faces/headless/json_text.h"
-#include "faces/headless/properties.h"
-#include "faces/headless/state.h"
-#include "faces/headless/variables.h"
 #include "faces/kept_game.h"
+#include "faces/scripted/json_text.h"
+#include "faces/scripted/properties.h"
+#include "faces/scripted/state.h"
+#include "faces/scripted/variables.h"
 #include "game/text.h"
 
 namespace zelvo {

@@ -1,6 +1,6 @@
-#include "surface/looks.h"
 #include "surface/named.h"
-#include "surface/windows.h"
+#include "surface/windows/looks.h"
+#include "surface/windows/windows.h"
 
 namespace zelvo {
 namespace {
@@ -81,7 +81,8 @@ GFMWindow::GFMWindow(Surface& surface)
                        .height = 6756,
                        .titleBar = TitleBar::Sizable,
                        .label = "Game board",
-                       .tall = TallBoard()}) {
+                       .tall = TallBoard(),
+                       .isMain = true}) {
   PlaceBoard();
   PlaceLedgers();
   PlaceActions();

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "faces/headless/virtual_time.h"
+#include "faces/scripted/virtual_time.h"
 #include "surface/surface.h"
 
 namespace zelvo {

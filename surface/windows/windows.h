@@ -2,7 +2,8 @@
 
 #include <array>
 
-#include "surface/window.h"
+#include "surface/surface.h"
+#include "surface/windows/picture.h"
 
 namespace zelvo {
 
@@ -123,6 +124,31 @@ struct BKWindow : Window {
 struct ABTWindow : Window {
   explicit ABTWindow(Surface& surface);
   Control Image1, Label1;
+};
+
+/// The thirteen windows under the names that the rules use. `Game` derives from it, so that a rule
+/// reads `g.GFM->PCredit.Caption`.
+class GameWindows : public Surface {
+ public:
+  using Surface::Surface;
+
+  WindowSlot<GSTWindow> GST{*this};
+  WindowSlot<GFMWindow> GFM{*this};
+  WindowSlot<ICFWindow> ICF{*this};
+  WindowSlot<TTWindow> TT{*this};
+  WindowSlot<WINXWindow> WINX{*this};
+  WindowSlot<HHWindow> HH{*this};
+  WindowSlot<HSWindow> HS{*this};
+  WindowSlot<SVWindow> SV{*this};
+  WindowSlot<RBWindow> RB{*this};
+  WindowSlot<MLWindow> ML{*this};
+  WindowSlot<CHNWindow> CHN{*this};
+  WindowSlot<BKWindow> BK{*this};
+  WindowSlot<ABTWindow> ABT{*this};
+
+  /// Loads the start window, which shows itself and plays the opening.
+  void Start() override { Load(GST); }
+  std::string_view MeaningOf(PictureId picture) const override { return PictureMeaning(picture); }
 };
 
 }  // namespace zelvo

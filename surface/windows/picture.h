@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "surface/picture_id.h"
+
 namespace zelvo {
 
 /// The identity of a picture: the control that owns it at design time. Two controls show the same

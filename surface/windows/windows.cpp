@@ -1,7 +1,7 @@
-#include "surface/windows.h"
+#include "surface/windows/windows.h"
 
-#include "surface/looks.h"
 #include "surface/named.h"
+#include "surface/windows/looks.h"
 
 namespace zelvo {
 
@@ -46,7 +46,8 @@ GSTWindow::GSTWindow(Surface& surface)
                        .height = 6756,
                        .titleBar = TitleBar::Sizable,
                        .ground = night,
-                       .tall = TallStart()}) {
+                       .tall = TallStart(),
+                       .isMain = true}) {
   Place(NAMED(Panel3D1), Kind::Panel, {200, 180, 9104, 6396}, {.look = panel});
   Place(NAMED(Image2), Kind::Image, {346, 300, 8412, 3000}, {.picture = PictureId::GST_Image2},
         &Panel3D1);

@@ -1,4 +1,4 @@
-#include "surface/picture.h"
+#include "surface/windows/picture.h"
 
 #include <algorithm>
 #include <array>

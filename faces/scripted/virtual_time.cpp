@@ -1,4 +1,4 @@
-#include "faces/headless/virtual_time.h"
+#include "faces/scripted/virtual_time.h"
 
 namespace zelvo {
 

@@ -1,4 +1,4 @@
-#include "faces/headless/json_text.h"
+#include "faces/scripted/json_text.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 # The Debian packages that Zelvo needs, for the scripts at the top of the tree.
 play_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libpulse-dev libxcb1-dev
   nlohmann-json3-dev fonts-dejavu-core)
-check_packages=("${play_packages[@]}" clang clang-format clang-tidy libgtest-dev libgl-dev pulseaudio
+check_packages=("${play_packages[@]}" git clang clang-tidy libgtest-dev libgl-dev pulseaudio
   'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')
 # clang-tidy reads the benchmarks as well.
 tidy_packages=(python3 libbenchmark-dev)
@@ -12,3 +12,10 @@ machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio
 # For the page.
 page_packages=(clang cmake ninja-build lld binaryen wasi-libc python3 brotli librsvg2-bin esbuild
   'libc++-dev-wasm32|libc++-14-dev-wasm32' 'libclang-rt-dev-wasm32|libclang-rt-14-dev-wasm32')
+# For the tests of the page. Where npm is, from the archive or not, there is no need of another.
+browser_packages=("${page_packages[@]}" chromium)
+command -v npm >/dev/null || browser_packages+=(nodejs npm)
+# For what is said of files that nothing compiles.
+format_packages=(git clang-format)
+all_packages=("${check_packages[@]}" "${tidy_packages[@]}" "${machine_packages[@]}"
+  "${browser_packages[@]}" "${format_packages[@]}")

@@ -77,8 +77,8 @@ const Row& RowOf(PictureId picture) { return rows.at(static_cast<std::size_t>(pi
 std::string_view PictureOwner(PictureId picture) { return RowOf(picture).owner; }
 
 std::optional<PictureId> PictureOwnedBy(std::string_view owner) {
-  const auto* found = std::find_if(rows.begin(), rows.end(),
-                                   [owner](const Row& row) { return row.owner == owner; });
+  const auto found = std::find_if(rows.begin(), rows.end(),
+                                  [owner](const Row& row) { return row.owner == owner; });
   if (found == rows.end()) return std::nullopt;
   return static_cast<PictureId>(found - rows.begin());
 }

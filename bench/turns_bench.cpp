@@ -65,7 +65,7 @@ BENCHMARK(RecordedBuildingTurns);
 
 /// Board events one after the other, on a board that is laid out anew whenever `fill` says what
 /// stands on its lots.
-void BoardEvents(benchmark::State& state, const char* tag, Control ICFWindow::*icon) {
+void BoardEvents(benchmark::State& state, const char* tag, Member<Control, ICFWindow> icon) {
   AutoPlayer player;
   player.inModal = Dismiss;
   Game& g = player.game();

@@ -18,7 +18,7 @@ namespace {
 
 struct ComputerClass {
   int multiple;  // of the lot's value
-  Control ICFWindow::*icon;
+  Member<Control, ICFWindow> icon;
   Building building;
   std::string_view news;
   bool reviewed;  // by the zoning board

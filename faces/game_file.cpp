@@ -57,7 +57,7 @@ void SyncFolder(const std::string& folder) {
 
 /// The permissions of a file, or those of a new one.
 mode_t ModeOf(const std::string& path) {
-  struct stat facts {};
+  struct stat facts = {};
   if (stat(path.c_str(), &facts) == 0) return facts.st_mode & 07777;
   const mode_t mask = umask(0);
   umask(mask);
@@ -67,7 +67,7 @@ mode_t ModeOf(const std::string& path) {
 /// A folder holds no game, and a pipe or a device could take for ever. What is not there is no
 /// error yet.
 int ErrorIfNoFile(const std::string& path) {
-  struct stat facts {};
+  struct stat facts = {};
   if (stat(path.c_str(), &facts) != 0 || S_ISREG(facts.st_mode)) return 0;
   return S_ISDIR(facts.st_mode) ? EISDIR : ENOTSUP;
 }
@@ -183,8 +183,8 @@ bool KeptFile::IsAt(const std::string& path) const {
 }
 
 bool KeptFile::IsInPlace() const {
-  struct stat ours {};
-  struct stat there {};
+  struct stat ours = {};
+  struct stat there = {};
   return fstat(file_, &ours) == 0 && stat(path_.c_str(), &there) == 0 &&
          ours.st_ino == there.st_ino && ours.st_dev == there.st_dev;
 }

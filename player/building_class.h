@@ -10,11 +10,11 @@ namespace zelvo {
 
 /// What the player can build: one of the six hotels or a restaurant.
 struct BuildingClass {
-  std::string_view keyword;  ///< what a choice leaves in `Word`
-  Control GFMWindow::*icon;  ///< its tag counts the player's buildings of the class
-  int multiple;              ///< of the lot's value; the restaurant's goes by level
-  std::string_view title;    ///< of the quote
-  std::string_view owned;    ///< behind the count
+  std::string_view keyword;         ///< what a choice leaves in `Word`
+  Member<Control, GFMWindow> icon;  ///< its tag counts the player's buildings of the class
+  int multiple;                     ///< of the lot's value; the restaurant's goes by level
+  std::string_view title;           ///< of the quote
+  std::string_view owned;           ///< behind the count
   Building building;
 
   std::string_view Tag() const { return playerTags[building]; }  ///< on the lot

@@ -57,7 +57,7 @@ constexpr std::array<Line, 22> legendLines = {{
 }};
 
 struct LotLine {
-  Control ICFWindow::*icon;
+  Member<Control, ICFWindow> icon;
   std::string_view text;
 };
 

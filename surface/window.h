@@ -118,6 +118,10 @@ class Window {
   std::vector<Control*> controls_;
 };
 
+/// Which member of a window, as a table names a control: `Member<Control, BKWindow>`.
+template <class T, class W>
+using Member = T W::*;
+
 /// A window under the name that the rules use. Touching it through `->` or `->*` loads it if it is
 /// not loaded.
 template <class W>
@@ -130,7 +134,7 @@ class WindowSlot {
   }
   /// The same for a control that a table names, as in `g.ICF->*row.icon`.
   template <class T>
-  T& operator->*(T W::*member) {
+  T& operator->*(Member<T, W> member) {
     return operator->()->*member;
   }
   /// The window itself, loaded or not; loads nothing.

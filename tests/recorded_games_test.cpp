@@ -45,9 +45,8 @@ std::vector<Held> Everything(Game& game) {
     for (int index = variable.first; index <= std::max(variable.first, variable.last); ++index) {
       const int at = variable.IsArray() ? index : Control::noIndex;
       const std::string suffix = variable.IsArray() ? "(" + std::to_string(index) + ")" : "";
-      all.push_back({std::string(variable.name) + suffix, [&variable, at](Game& g) {
-                       return ReadVariable(g, {&variable, at});
-                     }});
+      const auto read = [&variable, at](Game& g) { return ReadVariable(g, {&variable, at}); };
+      all.push_back({std::string(variable.name) + suffix, read});
     }
   }
   for (const Window* window : game.Windows()) {

@@ -123,8 +123,8 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   bool syncing_ = false;
   bool syncAgain_ = false;
   LostWindowWatch lostWindows_{[this](WId id) {
-    QMetaObject::invokeMethod(
-        this, [this, id] { LoseWindow(id); }, Qt::QueuedConnection);
+    const auto lose = [this, id] { LoseWindow(id); };
+    QMetaObject::invokeMethod(this, lose, Qt::QueuedConnection);
   }};
 };
 

@@ -5,7 +5,6 @@
 #include "game/money.h"
 #include "game/text.h"
 #include "game/worth.h"
-#include "player/building_class.h"
 #include "player/zoning.h"
 #include "presentation/cues.h"
 
@@ -44,13 +43,15 @@ void ComputerRestaurant(Game& g) {
       return;
     }
   }
-  SetLot(g, g.CurLot, g.ICF->CREST, computerTags[Restaurant]);
-  AddToCount(g.ICF->CREST, 1);
+  const BuildingClass& restaurant = buildingClasses[Restaurant];
+  Control& icon = g.ICF->*restaurant.computerIcon;
+  SetLot(g, g.CurLot, icon, restaurant.computerTag);
+  AddToCount(icon, 1);
   ++g.RestCount;
   // No spread: a restaurant of the computer moves no neighbour's value.
   CheckWealth(g);
   PlayCue(g, Cue::ComputerRestaurant);
-  g.GFM->PSHOW.Caption = "Computer Purchased a Restaurant";
+  g.GFM->PSHOW.Caption = restaurant.news;
   g.Refused = true;
 }
 

@@ -2,36 +2,17 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 
 #include "computer/computer_restaurant.h"
 #include "game/buildings.h"
 #include "game/lots.h"
 #include "game/money.h"
 #include "game/text.h"
-#include "player/building_class.h"
 #include "player/zoning.h"
 #include "presentation/blink.h"
 
 namespace zelvo {
 namespace {
-
-struct ComputerClass {
-  int multiple;  // of the lot's value
-  Member<Control, ICFWindow> icon;
-  Building building;
-  std::string_view news;
-  bool reviewed;  // by the zoning board
-};
-
-constexpr std::array<ComputerClass, 6> dearestFirst = {{
-    {7, &ICFWindow::HILTON, Hilton, "Computer Purchased a Hilton on lot ", false},
-    {6, &ICFWindow::RAMADA, RamadaInn, "Computer Purchased a Ramada Inn on lot ", false},
-    {5, &ICFWindow::BEST, BestWestern, "Computer Purchased a Best Western on lot ", false},
-    {4, &ICFWindow::QUALITY, QualityInn, "Computer Purchased a Quality Inn on lot ", false},
-    {3, &ICFWindow::THRIFTY, ThriftyInn, "Computer Purchased a Thrifty on lot ", true},
-    {2, &ICFWindow::SUPER, SuperSaver, "Computer Purchased a Super Saver on lot ", true},
-}};
 
 struct Skill {
   double price;      // what the computer pays of the plain cost
@@ -60,8 +41,8 @@ struct Selections {
   bool ScanOpenLots();
   void Buy();
   void Build();
-  const ComputerClass* AffordableClass();
-  bool PutUp(const ComputerClass& building);
+  const BuildingClass* AffordableClass();
+  bool PutUp(const BuildingClass& building);
   void Pay();
   void Blink() const;
 };
@@ -187,7 +168,7 @@ void Selections::Build() {
     Blink();
     return;
   }
-  const ComputerClass* building = AffordableClass();
+  const BuildingClass* building = AffordableClass();
   if (building == nullptr) {
     g.BuildCost = Currency();
     buyFirst = true;
@@ -199,9 +180,11 @@ void Selections::Build() {
   Blink();
 }
 
-const ComputerClass* Selections::AffordableClass() {
+/// The dearest hotel that `Money` exceeds; null if none. A restaurant has had its chance before.
+const BuildingClass* Selections::AffordableClass() {
   const Skill& skill = skills[g.SkillLevel];
-  for (const ComputerClass& building : dearestFirst) {
+  for (int hotel = Hilton; hotel >= SuperSaver; --hotel) {
+    const BuildingClass& building = buildingClasses[hotel];
     g.Work = building.multiple;
     const Currency plainCost = g.LotValue[g.CurLot] * building.multiple;
     remainder = plainCost.Share(skill.remainder);
@@ -212,16 +195,16 @@ const ComputerClass* Selections::AffordableClass() {
 }
 
 /// False if the zoning board refuses; no other class is tried then.
-bool Selections::PutUp(const ComputerClass& building) {
+bool Selections::PutUp(const BuildingClass& building) {
   g.Refused = false;
-  if (building.reviewed) ZoningReview(g, plainReview);
+  if (building.cheap) ZoningReview(g, plainReview);
   buyFirst = false;
   if (g.Refused) {
     g.Refused = false;
     return false;
   }
-  Control& icon = g.ICF->*building.icon;
-  SetLot(g, g.CurLot, icon, computerTags[building.building]);
+  Control& icon = g.ICF->*building.computerIcon;
+  SetLot(g, g.CurLot, icon, building.computerTag);
   AddToCount(icon, 1);
   g.GFM->PSHOW.Caption = std::string(building.news) + NumberText(g.CurLot);
   return true;

@@ -38,16 +38,19 @@ BetterRate FindBetterRate(Game& g) {
   return {.player = g.Delta > farBehind};
 }
 
-/// Adds up the income of the buildings with these tags in `Tally`, and counts the restaurants.
-void SumIncome(Game& g, const BuildingTags& tags, const Rate& rate) {
+/// Adds up the income of a side's buildings, which have these tags, in `Tally`, and counts the
+/// restaurants.
+void SumIncome(Game& g, Member<std::string_view, BuildingClass> sideTag, const Rate& rate) {
   g.OwnerTags.fill("");
-  for (std::size_t i = 0; i < tags.size(); ++i) g.OwnerTags[i + 1] = tags[i];
-  for (const std::string_view earning : tags) {
+  for (const BuildingClass& earning : buildingClasses) {
+    g.OwnerTags[earning.building + 1] = earning.*sideTag;
+  }
+  for (const BuildingClass& earning : buildingClasses) {
     for (g.Idx = 0; g.Idx < lotCount; ++g.Idx) {
-      if (LotTag(g, g.Idx) != earning) continue;
+      if (LotTag(g, g.Idx) != earning.*sideTag) continue;
       g.Money = rate.Of(g.LotValue[g.Idx]);
       g.Tally += g.Money;
-      if (earning == tags[Restaurant]) ++g.RestCount;
+      if (earning.IsRestaurant()) ++g.RestCount;
     }
   }
   g.CurTag = LotTag(g, lotCount - 1);
@@ -74,11 +77,11 @@ void PayRevenue(Game& g) {
   const Rate computerRate{g.AssessRate, better.computer};
   ClearSums(g);
   g.RestCount = 0;
-  SumIncome(g, playerTags, playerRate);
+  SumIncome(g, &BuildingClass::playerTag, playerRate);
   PayOut(g, g.GFM->PCredit);
   PayIntoBank(g, g.Tally.Share(g.BankPlays ? 0.18 : 0.12));  // on top; the player gets it all
   ClearSums(g);
-  SumIncome(g, computerTags, computerRate);
+  SumIncome(g, &BuildingClass::computerTag, computerRate);
   PayOut(g, g.GFM->CCredit);
 }
 

@@ -51,8 +51,6 @@ struct ControlRow {
 };
 
 constexpr auto classIcon = On<GFM::ClassIcon_Click>;
-constexpr auto boardLine = On<GFM::Control_MouseMove>;
-constexpr auto legendLine = On<ICF::Icon_MouseMove>;
 
 constexpr ControlRow controlRows[] = {
     // window, control, click, mouse move, timer
@@ -61,27 +59,24 @@ constexpr ControlRow controlRows[] = {
     {"GST", "CMDEXIT", On<GST::CMDEXIT_Click>},
 
     {"GFM", "Image1", On<GFM::Image1_Click>, On<GFM::Image1_MouseMove>, none, dropsWhileBusy},
-    {"GFM", "SUPER", classIcon, boardLine, none, dropsWhileBusy},
-    {"GFM", "THRIFTY", classIcon, boardLine, none, dropsWhileBusy},
-    {"GFM", "QUALITY", classIcon, boardLine, none, dropsWhileBusy},
-    {"GFM", "BEST", classIcon, boardLine, none, dropsWhileBusy},
-    {"GFM", "RAMADA", classIcon, boardLine, none, dropsWhileBusy},
-    {"GFM", "HILTON", classIcon, boardLine, none, dropsWhileBusy},
-    {"GFM", "Rest", classIcon, boardLine, none, dropsWhileBusy},
+    {"GFM", "SUPER", classIcon, none, none, dropsWhileBusy},
+    {"GFM", "THRIFTY", classIcon, none, none, dropsWhileBusy},
+    {"GFM", "QUALITY", classIcon, none, none, dropsWhileBusy},
+    {"GFM", "BEST", classIcon, none, none, dropsWhileBusy},
+    {"GFM", "RAMADA", classIcon, none, none, dropsWhileBusy},
+    {"GFM", "HILTON", classIcon, none, none, dropsWhileBusy},
+    {"GFM", "Rest", classIcon, none, none, dropsWhileBusy},
     {"GFM", "CMDBUY", On<GFM::CMDBUY_Click>, none, none, dropsWhileBusy},
     {"GFM", "CMDSELL", On<GFM::CMDSELL_Click>, none, none, dropsWhileBusy},
     {"GFM", "CMDSHOT", On<GFM::CMDSHOT_Click>, none, none, dropsWhileBusy},
     {"GFM", "CMDBUILD", On<GFM::CMDBUILD_Click>, none, none, dropsWhileBusy},
     {"GFM", "BUILDIT", On<GFM::BUILDIT_Click>, none, none, dropsWhileBusy},
-    {"GFM", "CMDGO", On<GFM::CMDGO_Click>, boardLine},
-    {"GFM", "CMDHELP", On<GFM::CMDHELP_Click>, boardLine},
-    {"GFM", "CMDEXIT", On<GFM::CMDEXIT_Click>, boardLine},
-    {"GFM", "Label1", On<GFM::Label1_Click>, boardLine},
-    {"GFM", "Label8", On<GFM::Label8_Click>, boardLine},
-    {"GFM", "BANKLABEL", On<GFM::BANKLABEL_Click>, boardLine},
-    {"GFM", "Panel3D2", none, boardLine},
-    {"GFM", "Panel3D4", none, boardLine},
-    {"GFM", "PSHOW", none, boardLine},
+    {"GFM", "CMDGO", On<GFM::CMDGO_Click>},
+    {"GFM", "CMDHELP", On<GFM::CMDHELP_Click>},
+    {"GFM", "CMDEXIT", On<GFM::CMDEXIT_Click>},
+    {"GFM", "Label1", On<GFM::Label1_Click>},
+    {"GFM", "Label8", On<GFM::Label8_Click>},
+    {"GFM", "BANKLABEL", On<GFM::BANKLABEL_Click>},
     {"GFM", "Timer1", none, none, On<GFM::Timer1_Timer>},
 
     {"ICF", "OPT1", On<ICF::OPT1_Click>, On<ICF::OPT1_MouseMove>},
@@ -91,28 +86,6 @@ constexpr ControlRow controlRows[] = {
     {"ICF", "CMDEXP", On<ICF::CMDEXP_Click>},
     {"ICF", "CMDABOUT", On<ICF::CMDABOUT_Click>},
     {"ICF", "cmdexit", On<ICF::CMDEXIT_Click>},
-    {"ICF", "LUND", none, legendLine},
-    {"ICF", "LOPEN", none, legendLine},
-    {"ICF", "LDIRT", none, legendLine},
-    {"ICF", "PLAYER", none, legendLine},
-    {"ICF", "COMP", none, legendLine},
-    {"ICF", "GOLF", none, legendLine},
-    {"ICF", "PARK", none, legendLine},
-    {"ICF", "CITY", none, legendLine},
-    {"ICF", "MALL", none, legendLine},
-    {"ICF", "CREST", none, legendLine},
-    {"ICF", "SUPER", none, legendLine},
-    {"ICF", "THRIFTY", none, legendLine},
-    {"ICF", "QUALITY", none, legendLine},
-    {"ICF", "BEST", none, legendLine},
-    {"ICF", "RAMADA", none, legendLine},
-    {"ICF", "HILTON", none, legendLine},
-    {"ICF", "ELEC", none, legendLine},
-    {"ICF", "FIRE", none, legendLine},
-    {"ICF", "PLANE", none, legendLine},
-    {"ICF", "PAINT", none, legendLine},
-    {"ICF", "IRS", none, legendLine},
-    {"ICF", "MAN1", none, legendLine},
 
     {"WINX", "CMDEXIT", On<WINX::CMDEXIT_Click>},
     {"HH", "CMDEXIT", On<HH::CMDEXIT_Click>},
@@ -133,6 +106,7 @@ constexpr ControlRow controlRows[] = {
 struct WindowRow {
   std::string_view window;
   WindowHandlers handlers;
+  Handlers::Function hover = none;  // the mouse moves over a control that says something then
 };
 
 constexpr WindowRow windowRows[] = {
@@ -142,9 +116,11 @@ constexpr WindowRow windowRows[] = {
      {.activate = GFM::Form_Activate,
       .resize = GFM::Form_Resize,
       .queryUnload = GFM::Form_QueryUnload,
-      .unload = GFM::Form_Unload}},
+      .unload = GFM::Form_Unload},
+     On<GFM::Control_MouseMove>},
     {"ICF",
-     {.load = ICF::Form_Load, .activate = ICF::Form_Activate, .mouseMove = ICF::Form_MouseMove}},
+     {.load = ICF::Form_Load, .activate = ICF::Form_Activate, .mouseMove = ICF::Form_MouseMove},
+     On<ICF::Icon_MouseMove>},
     {"TT", {.activate = TT::Form_Activate}},
     {"HH", {.load = HH::Form_Load}},
     {"HS", {.activate = HS::Form_Activate}},
@@ -159,11 +135,17 @@ constexpr WindowRow windowRows[] = {
 }  // namespace
 
 Game::Game(Platform& platform) : GameWindows(platform) {
-  for (const WindowRow& row : windowRows) FindWindow(row.window)->handlers = row.handlers;
   for (const ControlRow& row : controlRows) {
     for (Control* control : FindWindow(row.window)->controls()) {
       if (control->name() != row.control) continue;
       control->handlers = {row.click, row.mouseMove, row.timer, row.dropsClicksWhileBusy};
+    }
+  }
+  for (const WindowRow& row : windowRows) {
+    Window& window = *FindWindow(row.window);
+    window.handlers = row.handlers;
+    for (Control* control : window.controls()) {
+      if (!control->design().hover.empty()) control->handlers.mouseMove = row.hover;
     }
   }
 }

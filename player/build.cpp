@@ -3,12 +3,12 @@
 #include <array>
 #include <string>
 
+#include "game/buildings.h"
 #include "game/lots.h"
 #include "game/money.h"
 #include "game/spread.h"
 #include "game/text.h"
 #include "game/worth.h"
-#include "player/building_class.h"
 #include "player/trade.h"
 #include "player/zoning.h"
 #include "presentation/cues.h"
@@ -59,7 +59,7 @@ void Pay(Game& g) {
 
 void PutUp(Game& g, const BuildingClass& building) {
   Control& icon = g.GFM->*building.icon;
-  SetLot(g, g.CurLot, icon, building.Tag());
+  SetLot(g, g.CurLot, icon, building.playerTag);
   AddToCount(icon, 1);
   if (!building.IsRestaurant()) return;
   g.Word = "REST";

@@ -3,10 +3,10 @@
 #include <array>
 #include <string>
 
+#include "game/buildings.h"
 #include "game/lots.h"
 #include "game/text.h"
 #include "game/turn.h"
-#include "player/building_class.h"
 
 namespace zelvo {
 namespace {

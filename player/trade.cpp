@@ -1,10 +1,10 @@
 #include "player/trade.h"
 
+#include "game/buildings.h"
 #include "game/lots.h"
 #include "game/money.h"
 #include "game/text.h"
 #include "game/turn.h"
-#include "player/building_class.h"
 #include "presentation/cues.h"
 
 namespace zelvo {
@@ -18,7 +18,7 @@ void ShiftWorth(Game& g, Currency change) {
 
 void CountBrandSold(Game& g) {
   for (const BuildingClass& building : buildingClasses) {
-    if (building.IsRestaurant() || g.CurTag != building.Tag()) continue;
+    if (building.IsRestaurant() || g.CurTag != building.playerTag) continue;
     AddToCount(g.GFM->*building.icon, -1);
     ++g.BrandSold[building.Brand()];
   }

@@ -1,7 +1,7 @@
 #include "player/zoning.h"
 
+#include "game/buildings.h"
 #include "game/text.h"
-#include "player/building_class.h"
 #include "presentation/cues.h"
 
 namespace zelvo {
@@ -75,8 +75,7 @@ void ZoningReview(Game& g, int reviewMark) {
     return;
   }
   if (plan != nullptr) g.Work = plan->Brand();
-  const bool cheap = g.Word == "SUPER" || g.Word == "THRIFTY";
-  if (cheap) {
+  if (plan != nullptr && plan->cheap) {
     ReviewCheap(g);
   } else {
     ReviewDear(g, reviewMark);

@@ -96,6 +96,8 @@ struct ControlDesign {
   std::string_view label = {};
   /// What it shows, where neither its caption nor its picture says it in words.
   std::string_view words = {};
+  /// What the window writes elsewhere while the control is pointed at.
+  std::string_view hover = {};
   bool numbered = false;  ///< its index is told with its label
   const Group* group = nullptr;
   int tabLevel = 0;  ///< Tab goes through the lower levels first, through one as it was placed

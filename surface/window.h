@@ -118,7 +118,7 @@ class Window {
   std::vector<Control*> controls_;
 };
 
-/// Which member of a window, as a table names a control: `Member<Control, BKWindow>`.
+/// Which member of a structure, as a table names a control: `Member<Control, BKWindow>`.
 template <class T, class W>
 using Member = T W::*;
 

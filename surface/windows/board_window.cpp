@@ -127,7 +127,8 @@ void GFMWindow::PlaceBoard() {
 
 void GFMWindow::PlaceLedgers() {
   using namespace looks;
-  Place(NAMED(Panel3D2), Kind::Panel, {5880, 30, 3594, 6696}, {.look = panel});
+  Place(NAMED(Panel3D2), Kind::Panel, {5880, 30, 3594, 6696},
+        {.look = panel, .hover = "Zelvo Help"});
 
   const auto ledger = [this](int top, int side, Color colour, NamedControl emblem,
                              NamedControl heading, NamedControl up, NamedControl credit,
@@ -204,10 +205,12 @@ void GFMWindow::PlaceLedgers() {
     left += width;
   }
   Place(NAMED(Panel3D3), Kind::Panel, {90, 2740, 3414, 1400}, {.look = panel}, &Panel3D2);
-  Place(
-      NAMED(PSHOW), Kind::Label, {45, 45, 3324, 1310},
-      {.look = {.ground = cream, .letterHeight = 190}, .group = &newsGroup, .speech = Speech::News},
-      &Panel3D3);
+  Place(NAMED(PSHOW), Kind::Label, {45, 45, 3324, 1310},
+        {.look = {.ground = cream, .letterHeight = 190},
+         .hover = "Play Instructions",
+         .group = &newsGroup,
+         .speech = Speech::News},
+        &Panel3D3);
 }
 
 void GFMWindow::PlaceActions() {
@@ -233,6 +236,7 @@ void GFMWindow::PlaceActions() {
            .picture = icon.picture,
            .look = {.border = Border::Line},
            .words = icon.words,
+           .hover = icon.words,
            .group = &classGroup},
           &Panel3D2);
   }
@@ -253,30 +257,48 @@ void GFMWindow::PlaceActions() {
   action(NAMED(CMDSELL), {120, 5650, 1650, 410}, "Sell Property", afterBoard);
   action(NAMED(CMDSHOT), {1824, 5650, 1650, 410}, "Sell Building", afterBoard);
   Place(NAMED(CMDGO), Kind::Button, {360, 6110, 2880, 530},
-        {.picture = PictureId::GFM_CMDGO, .words = "End of turn", .key = Key::CtrlEnter},
+        {.picture = PictureId::GFM_CMDGO,
+         .words = "End of turn",
+         .hover = "Finished, Computers Turn",
+         .key = Key::CtrlEnter},
         &Panel3D2);
 }
 
 void GFMWindow::PlaceBottomStrip() {
   using namespace looks;
-  Place(NAMED(Panel3D4), Kind::Panel, {50, 5850, 5805, 876}, {.look = panel});
+  constexpr std::string_view borrow = "Click to borrow money from the bank";
+  Place(NAMED(Panel3D4), Kind::Panel, {50, 5850, 5805, 876},
+        {.look = panel, .hover = "Zelvo Help"});
   Place(NAMED(Label1), Kind::Label, {80, 70, 2250, 370},
-        {.look = {.ink = playerBlue, .letterHeight = 200, .bold = true}, .label = "Skill level"},
+        {.look = {.ink = playerBlue, .letterHeight = 200, .bold = true},
+         .label = "Skill level",
+         .hover = "Click to change Skill level"},
         &Panel3D4);
   Place(NAMED(Label10), Kind::Label, {80, 450, 2250, 330},
         {.caption = "Level", .look = {.letterHeight = 190}}, &Panel3D4);
-  Place(NAMED(Label8), Kind::Label, {2360, 70, 2080, 360},
-        {.caption = "First National Bank", .look = Heading(bankTeal, Align::Center)}, &Panel3D4);
+  Place(
+      NAMED(Label8), Kind::Label, {2360, 70, 2080, 360},
+      {.caption = "First National Bank", .look = Heading(bankTeal, Align::Center), .hover = borrow},
+      &Panel3D4);
   Place(NAMED(Label9), Kind::Label, {2360, 450, 980, 340},
         {.caption = "Net Worth $", .look = {.ink = white, .ground = bankTeal, .letterHeight = 130}},
         &Panel3D4);
   Place(NAMED(BANKLABEL), Kind::Label, {3340, 450, 1100, 340},
-        {.caption = "$", .look = amount, .label = "Bank's net worth", .speech = Speech::Standing},
+        {.caption = "$",
+         .look = amount,
+         .label = "Bank's net worth",
+         .hover = borrow,
+         .speech = Speech::Standing},
         &Panel3D4);
   Place(NAMED(CMDHELP), Kind::Button, {4500, 80, 600, 710},
-        {.picture = PictureId::GFM_CMDHELP, .words = "Setup", .key = Key::F1}, &Panel3D4);
+        {.picture = PictureId::GFM_CMDHELP,
+         .words = "Setup",
+         .hover = "Click for Setup menu",
+         .key = Key::F1},
+        &Panel3D4);
   Place(NAMED(CMDEXIT), Kind::Button, {5140, 80, 600, 710},
-        {.picture = PictureId::GFM_CMDEXIT, .words = "Exit"}, &Panel3D4);
+        {.picture = PictureId::GFM_CMDEXIT, .words = "Exit", .hover = "Click to Exit game"},
+        &Panel3D4);
 }
 
 }  // namespace zelvo

@@ -81,31 +81,13 @@ ICFWindow::ICFWindow(Surface& surface)
     NamedControl control;
     PictureId picture;
     std::string_view tag;
+    std::string_view hover;
   };
-  const std::array<Icon, 22> icons = {{
-      {NAMED(LUND), PictureId::ICF_LUND, "U"},
-      {NAMED(LOPEN), PictureId::ICF_LOPEN, "O"},
-      {NAMED(LDIRT), PictureId::ICF_LDIRT, "D"},
-      {NAMED(PLAYER), PictureId::ICF_PLAYER, "PU"},
-      {NAMED(COMP), PictureId::ICF_COMP, "CU"},
-      {NAMED(GOLF), PictureId::ICF_GOLF, "G"},
-      {NAMED(PARK), PictureId::ICF_PARK, "K"},
-      {NAMED(CITY), PictureId::ICF_CITY, ""},
-      {NAMED(MALL), PictureId::ICF_MALL, ""},
-      {NAMED(CREST), PictureId::ICF_CREST, ""},
-      {NAMED(SUPER), PictureId::ICF_SUPER, "CS"},
-      {NAMED(THRIFTY), PictureId::ICF_THRIFTY, "CT"},
-      {NAMED(QUALITY), PictureId::ICF_QUALITY, "CQ"},
-      {NAMED(BEST), PictureId::ICF_BEST, "CB"},
-      {NAMED(RAMADA), PictureId::ICF_RAMADA, "CR"},
-      {NAMED(HILTON), PictureId::ICF_HILTON, "CH"},
-      {NAMED(ELEC), PictureId::ICF_ELEC, ""},
-      {NAMED(FIRE), PictureId::ICF_FIRE, ""},
-      {NAMED(PLANE), PictureId::ICF_PLANE, ""},
-      {NAMED(PAINT), PictureId::ICF_PAINT, ""},
-      {NAMED(IRS), PictureId::ICF_IRS, ""},
-      {NAMED(MAN1), PictureId::ICF_MAN1, ""},
-  }};
+  const std::array icons = {
+#define ICON(name, tag, meaning, hover) Icon{NAMED(name), PictureId::ICF_##name, tag, hover},
+      ZELVO_LEGEND(ICON)
+#undef ICON
+  };
   // Three rows: eight, eight and six.
   for (int i = 0; i < static_cast<int>(icons.size()); ++i) {
     const Box box = {110 + 525 * (i % 8), 120 + 590 * (i / 8), 480, 480};
@@ -113,6 +95,7 @@ ICFWindow::ICFWindow(Surface& surface)
           {.tag = icons[i].tag,
            .picture = icons[i].picture,
            .look = {.border = Border::Line},
+           .hover = icons[i].hover,
            .group = &legendGroup,
            .tabLevel = afterOptions},
           &Panel3D1);

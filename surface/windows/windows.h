@@ -3,6 +3,7 @@
 #include <array>
 
 #include "surface/surface.h"
+#include "surface/windows/legend.h"
 #include "surface/windows/picture.h"
 
 namespace zelvo {
@@ -48,9 +49,9 @@ struct GFMWindow : Window {
 struct ICFWindow : Window {
   explicit ICFWindow(Surface& surface);
   Control Panel3D1, Panel3D2;
-  Control LUND, LOPEN, LDIRT, PLAYER, COMP, GOLF, PARK, CITY, MALL, CREST;
-  Control SUPER, THRIFTY, QUALITY, BEST, RAMADA, HILTON;
-  Control ELEC, FIRE, PLANE, PAINT, IRS, MAN1;
+#define ICON(name, tag, meaning, hover) Control name;
+  ZELVO_LEGEND(ICON)
+#undef ICON
   std::array<Control, 4> OPT1;
   Control CKCHANCE, CKBANK;
   Control CMDSOUND, CMDEXP, CMDABOUT, cmdexit;

@@ -1,4 +1,4 @@
-#include "player/building_class.h"
+#include "game/buildings.h"
 
 #include "game/text.h"
 

@@ -3,11 +3,6 @@
 namespace zelvo {
 namespace {
 
-std::string NoSuch(std::string_view what, std::string_view name) {
-  constexpr std::size_t longestName = 80;
-  return "there is no " + std::string(what) + " " + std::string(name.substr(0, longestName));
-}
-
 std::string_view WhyImpossible(const Deed& deed) {
   const bool onControl = deed.control != nullptr;
   if (onControl && deed.control->kind() == Kind::Timer) {
@@ -19,6 +14,11 @@ std::string_view WhyImpossible(const Deed& deed) {
 }
 
 }  // namespace
+
+std::string NoSuch(std::string_view what, std::string_view name) {
+  constexpr std::size_t longestName = 80;
+  return "there is no " + std::string(what) + " " + std::string(name.substr(0, longestName));
+}
 
 std::optional<Deed> ReadDeed(Surface& surface, std::string_view verb, std::string_view target,
                              std::string& error) {

@@ -9,6 +9,9 @@
 
 namespace zelvo {
 
+/// "there is no window XY", in words that do not get out of hand.
+std::string NoSuch(std::string_view what, std::string_view name);
+
 /// Reads a player's deed from its verb and what it is done to, as in "click" and "GFM.Image1(37)";
 /// `error` says in plain words why it is none.
 std::optional<Deed> ReadDeed(Surface& surface, std::string_view verb, std::string_view target,

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "game/game.h"
+#include "surface/in_order.h"
 
 namespace zelvo {
 
@@ -55,6 +56,8 @@ constexpr std::array<BuildingClass, Restaurant + 1> buildingClasses = {{
     {Restaurant, "REST", 0, false, &GFMWindow::Rest, &ICFWindow::CREST, "PDH", "CDR",
      "      Restaurant", " Restaurants owned", "Computer Purchased a Restaurant"},
 }};
+
+static_assert(InOrder(buildingClasses, &BuildingClass::building));
 
 /// The class of a keyword; null if the word is none.
 const BuildingClass* ClassOfKeyword(std::string_view keyword);

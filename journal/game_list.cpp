@@ -7,37 +7,53 @@
 #include <optional>
 #include <unordered_map>
 
+#include "journal/words.h"
+#include "surface/in_order.h"
+
 namespace zelvo {
 namespace {
 
 constexpr std::string_view formatName = "zelvo-game ";
 constexpr std::string_view header = "zelvo-game 1\n";
 
-constexpr std::array<std::string_view, 9> verbs = {"click", "hover", "close",  "resize", "tick",
-                                                   "clock", "sound", "answer", "back"};
-constexpr std::array<std::string_view, 3> extents = {"normal", "minimised", "maximised"};
-constexpr std::array<std::string_view, 2> noOrYes = {"no", "yes"};
+struct Verb {
+  Entry::Kind kind;
+  std::string_view name;
+};
+constexpr std::array<Verb, 9> verbs = {{{Entry::Kind::Click, "click"},
+                                        {Entry::Kind::Hover, "hover"},
+                                        {Entry::Kind::Close, "close"},
+                                        {Entry::Kind::Resize, "resize"},
+                                        {Entry::Kind::Tick, "tick"},
+                                        {Entry::Kind::Clock, "clock"},
+                                        {Entry::Kind::Sound, "sound"},
+                                        {Entry::Kind::Answer, "answer"},
+                                        {Entry::Kind::Back, "back"}}};
+static_assert(InOrder(verbs, &Verb::kind));
+
+struct ExtentName {
+  Extent extent;
+  std::string_view name;
+};
+constexpr std::array<ExtentName, 3> extents = {{{Extent::Normal, "normal"},
+                                                {Extent::Minimised, "minimised"},
+                                                {Extent::Maximised, "maximised"}}};
+static_assert(InOrder(extents, &ExtentName::extent));
 
 struct AnswerName {
-  std::string_view name;
   Answer answer;
+  std::string_view name;
 };
 constexpr std::array<AnswerName, 3> answers = {
-    {{"ok", Answer::Ok}, {"yes", Answer::Yes}, {"no", Answer::No}}};
+    {{Answer::Ok, "ok"}, {Answer::Yes, "yes"}, {Answer::No, "no"}}};
 
-template <class Names>
-std::optional<std::size_t> Find(const Names& names, std::string_view name) {
-  const auto found = std::find(names.begin(), names.end(), name);
-  if (found == names.end()) return std::nullopt;
-  return static_cast<std::size_t>(found - names.begin());
-}
-
-/// Cuts the first word off a line, with the one blank behind it.
-std::string_view TakeWord(std::string_view& line) {
-  const auto blank = line.find(' ');
-  const std::string_view word = line.substr(0, blank);
-  line = blank == std::string_view::npos ? std::string_view() : line.substr(blank + 1);
-  return word;
+/// The row of that name; null if there is none.
+template <class Rows>
+auto Find(const Rows& rows, std::string_view name) -> decltype(rows.data()) {
+  for (const auto& row : rows) {
+    if (row.name == name) return &row;
+  }
+  return nullptr;
 }
 
 std::optional<std::uint32_t> ReadNumber(std::string_view text) {
@@ -47,22 +63,6 @@ std::optional<std::uint32_t> ReadNumber(std::string_view text) {
   const bool plain = !text.empty() && (text.front() != '0' || text.size() == 1);
   if (!plain || error != std::errc() || stop != end) return std::nullopt;
   return number;
-}
-
-std::optional<TimeOfDay> ReadTime(std::string_view text) {
-  if (text.size() != 8 || text[2] != ':' || text[5] != ':') return std::nullopt;
-  const auto two = [text](std::size_t at) {
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    if (!isDigit(text[at]) || !isDigit(text[at + 1])) return 99;
-    return (text[at] - '0') * 10 + text[at + 1] - '0';
-  };
-  const TimeOfDay time{two(0), two(3), two(6)};
-  if (time.hour > 23 || time.minute > 59 || time.second > 59) return std::nullopt;
-  return time;
-}
-
-std::string TwoDigits(int number) {
-  return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
 }
 
 std::string NameOf(Surface& surface, const Entry& entry) {
@@ -93,9 +93,9 @@ class Reader {
   /// False if the line is no entry.
   bool Read(std::string_view line, Entry& entry) const {
     if (line.empty() || line.back() == ' ') return false;
-    const auto verb = Find(verbs, TakeWord(line));
-    if (!verb) return false;
-    entry.kind = static_cast<Entry::Kind>(*verb);
+    const Verb* verb = Find(verbs, TakeWord(line));
+    if (verb == nullptr) return false;
+    entry.kind = verb->kind;
     if (entry.IsDeed()) return ReadDeed(line, entry);
     switch (entry.kind) {
       case Entry::Kind::Clock: {
@@ -104,18 +104,14 @@ class Reader {
         entry.time = *time;
         return ReadRun(line, entry);
       }
-      case Entry::Kind::Sound: {
-        const auto yes = Find(noOrYes, line);
-        entry.hasSound = yes == 1U;
-        return yes.has_value();
+      case Entry::Kind::Sound:
+        entry.hasSound = line == "yes";
+        return line == "yes" || line == "no";
+      case Entry::Kind::Answer: {
+        const AnswerName* answer = Find(answers, line);
+        if (answer != nullptr) entry.answer = answer->answer;
+        return answer != nullptr;
       }
-      case Entry::Kind::Answer:
-        for (const auto& [name, answer] : answers) {
-          if (name != line) continue;
-          entry.answer = answer;
-          return true;
-        }
-        return false;
       default:
         return ReadRun(line, entry);
     }
@@ -143,10 +139,9 @@ class Reader {
       case Entry::Kind::Close:
         return onWindow && line.empty();
       case Entry::Kind::Resize: {
-        const auto extent = Find(extents, line);
-        if (!extent) return false;
-        entry.extent = static_cast<Extent>(*extent);
-        return onWindow;
+        const ExtentName* extent = Find(extents, line);
+        if (extent != nullptr) entry.extent = extent->extent;
+        return extent != nullptr && onWindow;
       }
       default:
         return !onTimer && line.empty();
@@ -202,23 +197,21 @@ Deed DeedOf(Surface& surface, const Entry& entry) {
 std::string_view ListHeader() { return header; }
 
 std::string LineOf(Surface& surface, const Entry& entry) {
-  std::string line(verbs.at(static_cast<std::size_t>(entry.kind)));
+  std::string line(verbs.at(static_cast<std::size_t>(entry.kind)).name);
   if (entry.IsDeed()) line.append(" ").append(NameOf(surface, entry));
   switch (entry.kind) {
     case Entry::Kind::Resize:
-      line.append(" ").append(extents.at(static_cast<std::size_t>(entry.extent)));
+      line.append(" ").append(extents.at(static_cast<std::size_t>(entry.extent)).name);
       break;
     case Entry::Kind::Clock:
-      line.append(" ").append(TwoDigits(entry.time.hour));
-      line.append(":").append(TwoDigits(entry.time.minute));
-      line.append(":").append(TwoDigits(entry.time.second));
+      line.append(" ").append(TimeText(entry.time));
       break;
     case Entry::Kind::Sound:
       line.append(entry.hasSound ? " yes" : " no");
       break;
     case Entry::Kind::Answer:
-      for (const auto& [name, answer] : answers) {
-        if (answer == entry.answer) line.append(" ").append(name);
+      for (const AnswerName& row : answers) {
+        if (row.answer == entry.answer) line.append(" ").append(row.name);
       }
       break;
     default:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace zelvo {
 
@@ -20,6 +21,11 @@ enum class MousePointer : unsigned char { Arrow = 1, Hourglass = 11 };
 /// The styles of message boxes: which buttons and which icon.
 enum class MessageStyle : unsigned char { Ok = 0, YesNoQuestion = 36, OkExclamation = 48 };
 enum class Answer : unsigned char { Ok = 1, Yes = 6, No = 7 };
+
+/// The file that the path of a wave file ends in.
+inline std::string_view FileNameOf(std::string_view path) {
+  return path.substr(path.rfind('\\') + 1);
+}
 
 /// The only door to the machine. A face implements it; everything that a test wants to steer
 /// (clock, player, sound) lies behind it.

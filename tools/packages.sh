@@ -1,8 +1,8 @@
 # The Debian packages that Zelvo needs, for the scripts at the top of the tree.
 play_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libpulse-dev libxcb1-dev
-  nlohmann-json3-dev fonts-dejavu-core)
-check_packages=("${play_packages[@]}" git clang clang-tidy libgtest-dev libgl-dev pulseaudio
-  'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')
+  fonts-dejavu-core)
+check_packages=("${play_packages[@]}" git clang clang-tidy libgtest-dev nlohmann-json3-dev libgl-dev
+  pulseaudio   'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')
 # clang-tidy reads the benchmarks as well.
 tidy_packages=(python3 libbenchmark-dev)
 package_packages=(dpkg-dev desktop-file-utils appstream lintian mandoc)

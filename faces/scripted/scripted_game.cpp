@@ -4,12 +4,14 @@
 #include <array>
 #include <utility>
 
+#include "faces/deed.h"
 #include "faces/kept_game.h"
 #include "faces/scripted/json_text.h"
 #include "faces/scripted/properties.h"
 #include "faces/scripted/state.h"
 #include "faces/scripted/variables.h"
 #include "game/text.h"
+#include "journal/words.h"
 
 namespace zelvo {
 namespace {
@@ -22,15 +24,10 @@ std::string_view WithoutBlanks(std::string_view text) {
 }
 
 /// Cuts the first word off a text and leaves the rest without blanks around it.
-std::string_view TakeWord(std::string_view& text) {
-  const auto end = std::min(text.find_first_of(" \t"), text.size());
-  const std::string_view word = text.substr(0, end);
-  text = WithoutBlanks(text.substr(end));
+std::string_view FirstWordOf(std::string_view& text) {
+  const std::string_view word = TakeWord(text, " \t");
+  text = WithoutBlanks(text);
   return word;
-}
-
-std::string NoSuch(std::string_view what, std::string_view name) {
-  return "there is no " + std::string(what) + " " + std::string(name.substr(0, 80));
 }
 
 /// A property's path, as in "GFM.Image1(3).Tag" or "GFM.Caption".
@@ -102,7 +99,7 @@ Answer ScriptedGame::MessageBox(const std::string& text, MessageStyle style,
 }
 
 bool ScriptedGame::PlaySound(const std::string& path, bool waits) {
-  const std::string_view file = std::string_view(path).substr(path.rfind('\\') + 1);
+  const std::string_view file = FileNameOf(path);
   cues_.append(cues_.empty() ? "" : ",").append("{\"file\":").append(Quoted(file));
   cues_.append(waits ? ",\"waits\":true}" : ",\"waits\":false}");
   return true;
@@ -170,7 +167,7 @@ std::string ScriptedGame::Execute(std::string_view line) {
       {"state", &ScriptedGame::ExecuteState},
       {"quit", &ScriptedGame::ExecuteQuit},
   }};
-  const std::string_view verb = TakeWord(line);
+  const std::string_view verb = FirstWordOf(line);
   for (const Command& command : commands) {
     if (command.verb == verb) return (this->*command.execute)(line);
   }
@@ -197,7 +194,7 @@ std::string ScriptedGame::ExecuteDeed(std::string_view verb, std::string_view re
 }
 
 std::string ScriptedGame::ExecuteLater(std::string_view rest) {
-  const std::string_view verb = TakeWord(rest);
+  const std::string_view verb = FirstWordOf(rest);
   if (verb != "click" && verb != "hover" && verb != "close") {
     return "only a click, a hover or a close can come later";
   }
@@ -233,21 +230,15 @@ std::string ScriptedGame::ExecuteWait(std::string_view rest) {
 }
 
 std::string ScriptedGame::ExecuteClock(std::string_view rest) {
-  const auto twoDigits = [&](std::size_t at, int limit) {
-    const int tens = rest[at] - '0';
-    const int ones = rest[at + 1] - '0';
-    const bool digits = tens >= 0 && tens <= 9 && ones >= 0 && ones <= 9;
-    return digits && tens * 10 + ones < limit ? tens * 10 + ones : -1;
-  };
-  if (rest.size() != 8 || rest[2] != ':' || rest[5] != ':') return "the clock reads HH:MM:SS";
-  const TimeOfDay clock{twoDigits(0, 24), twoDigits(3, 60), twoDigits(6, 60)};
-  if (clock.hour < 0 || clock.minute < 0 || clock.second < 0) return "there is no such time of day";
-  time().SetWallClock(clock);
+  if (!LooksLikeTime(rest)) return "the clock reads HH:MM:SS";
+  const auto clock = ReadTime(rest);
+  if (!clock) return "there is no such time of day";
+  time().SetWallClock(*clock);
   return "";
 }
 
 std::string ScriptedGame::ExecuteSet(std::string_view rest) {
-  const std::string_view name = TakeWord(rest);
+  const std::string_view name = FirstWordOf(rest);
   std::string error = SetValue(name, rest);
   if (error.empty()) wasSet_ = true;
   return error;

@@ -21,10 +21,4 @@ bool Shown::Shows(const Control& control) const {
          text == control.Text;
 }
 
-bool IsDrawn(const Control& control) {
-  const Box place = control.Place();
-  const WindowDesign& design = control.window().design();
-  return control.kind() != Kind::Timer && place.left < design.width && place.top < design.height;
-}
-
 }  // namespace zelvo

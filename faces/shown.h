@@ -21,7 +21,4 @@ struct Shown {
   bool Shows(const Control& control) const;
 };
 
-/// True for the controls that a face draws: no timers, and nothing beyond the client area.
-bool IsDrawn(const Control& control);
-
 }  // namespace zelvo

@@ -58,6 +58,16 @@ Box Control::TallPlace() const {
   return {left, top, x(place.left + place.width) - left, y(place.top + place.height) - top};
 }
 
+bool Control::IsDrawn() const {
+  const Box place = Place();
+  const WindowDesign& design = window_->design();
+  return kind_ != Kind::Timer && place.left < design.width && place.top < design.height;
+}
+
+bool Control::IsClickable() const {
+  return kind_ == Kind::Option || kind_ == Kind::CheckBox || handlers.click != nullptr;
+}
+
 bool Control::VisibleInWindow() const {
   for (const Control* control = this; control != nullptr; control = control->container_) {
     if (!control->Visible) return false;

@@ -145,6 +145,10 @@ class Control {
   Box Place() const;
   /// The place in the arrangement of the window for a tall screen.
   Box TallPlace() const;
+  /// True for what a face draws, once it is visible: no timers, and nothing beyond the window.
+  bool IsDrawn() const;
+  /// True if a click can mean something, be the control enabled or not.
+  bool IsClickable() const;
   /// True if the control and the panels that hold it are all visible.
   bool VisibleInWindow() const;
 

@@ -33,7 +33,7 @@ Page::Page(Surface& surface) : surface_(surface) {
   for (Window* window : surface.Windows()) {
     frames_.push_back({window, {}});
     for (const Control* control : window->controls()) {
-      if (IsDrawn(*control)) drawn_.push_back({control, {}});
+      if (control->IsDrawn()) drawn_.push_back({control, {}});
     }
   }
 }

@@ -155,10 +155,10 @@ QAccessible::Role RoleOf(const ControlWidget& widget) {
     case Kind::TextBox:
       return QAccessible::Grouping;
     case Kind::Image:
-      if (widget.WalkedGroup() != nullptr) return QAccessible::ListItem;
-      return widget.IsClickable() ? QAccessible::Button : QAccessible::Graphic;
+      if (WalkedGroup(widget.control()) != nullptr) return QAccessible::ListItem;
+      return widget.control().IsClickable() ? QAccessible::Button : QAccessible::Graphic;
     default:
-      if (widget.IsClickable()) return QAccessible::Button;
+      if (widget.control().IsClickable()) return QAccessible::Button;
       // Readers gather the labels of a dialog on their own, but only some of them.
       return widget.control().design().speech == Speech::News ? QAccessible::Paragraph
                                                               : QAccessible::StaticText;
@@ -192,7 +192,7 @@ class ControlAccess : public QAccessibleWidget {
 
   QStringList actionNames() const override {
     QStringList names = QAccessibleWidget::actionNames();
-    if (widget_.IsClickable()) names.prepend(pressAction());
+    if (widget_.control().IsClickable()) names.prepend(pressAction());
     return names;
   }
 

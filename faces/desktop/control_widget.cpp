@@ -31,12 +31,13 @@ ControlWidget::ControlWidget(Control& control, WindowView& view)
     : QWidget(&view), control_(control), view_(view) {
   setMouseTracking(true);
   setAttribute(Qt::WA_NoMousePropagation);
-  if (IsClickable() || WalkedGroup() != nullptr) setFocusPolicy(Qt::StrongFocus);
-  if (IsClickable()) {
+  const bool hasText = control.kind() == Kind::TextBox;  // which takes the focus itself
+  if (IsForKeyboard(control) && !hasText) setFocusPolicy(Qt::StrongFocus);
+  if (control.IsClickable()) {
     setAttribute(Qt::WA_Hover);
     if (control.kind() != Kind::Button) setCursor(Qt::PointingHandCursor);
   }
-  if (control.kind() == Kind::TextBox) {
+  if (hasText) {
     editor_ = new QPlainTextEdit(this);
     editor_->setReadOnly(true);
     editor_->setTabChangesFocus(true);
@@ -48,20 +49,6 @@ ControlWidget::ControlWidget(Control& control, WindowView& view)
     editor_->setPalette(colours);
     setFocusProxy(editor_);
   }
-}
-
-bool ControlWidget::IsClickable() const {
-  return control_.handlers.click != nullptr || HasMark(control_);
-}
-
-bool ControlWidget::TakesFocus() const {
-  const bool listens = IsClickable() || editor_ != nullptr || WalkedGroup() != nullptr;
-  return listens && control_.Enabled() && control_.VisibleInWindow();
-}
-
-const Group* ControlWidget::WalkedGroup() const {
-  const Group* group = control_.design().group;
-  return group != nullptr && group->walked ? group : nullptr;
 }
 
 bool ControlWidget::IsFocusOfItsWindow() const {
@@ -124,7 +111,7 @@ void ControlWidget::BecomeVisible(bool visible) {
 void ControlWidget::ShowOrHide() {
   if (!shown_.visible) view_.focusPath().Leave(*this);
   setVisible(shown_.visible);
-  if (shown_.visible) view_.focusPath().ComeBack(*this);
+  if (shown_.visible) view_.focusPath().ComeBack(control_);
 }
 
 void ControlWidget::timerEvent(QTimerEvent* event) {
@@ -148,7 +135,7 @@ void ControlWidget::Layout(const Mapping& mapping) {
 void ControlWidget::resizeEvent(QResizeEvent* /*event*/) { text_.reset(); }
 
 Standing ControlWidget::CurrentStanding() const {
-  return {isEnabled(), IsClickable() && underMouse(), pressed_ && underMouse()};
+  return {isEnabled(), control_.IsClickable() && underMouse(), pressed_ && underMouse()};
 }
 
 QRectF ControlWidget::MarkArea() const {
@@ -267,14 +254,14 @@ void ControlWidget::enterEvent(QEnterEvent* event) {
 void ControlWidget::keyPressEvent(QKeyEvent* event) {
   struct Arrow {
     int key = 0;
-    QPoint direction;
+    Step step = Step::Left;
   };
-  static constexpr Arrow arrows[] = {{Qt::Key_Left, {-1, 0}},
-                                     {Qt::Key_Right, {1, 0}},
-                                     {Qt::Key_Up, {0, -1}},
-                                     {Qt::Key_Down, {0, 1}}};
+  static constexpr Arrow arrows[] = {{Qt::Key_Left, Step::Left},
+                                     {Qt::Key_Right, Step::Right},
+                                     {Qt::Key_Up, Step::Up},
+                                     {Qt::Key_Down, Step::Down}};
   for (const Arrow& arrow : arrows) {
-    if (event->key() == arrow.key) return view_.focusPath().Walk(*this, arrow.direction);
+    if (event->key() == arrow.key) return view_.focusPath().Walk(control_, arrow.step);
   }
   const bool modified = (event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) != 0;
   if (modified) return QWidget::keyPressEvent(event);
@@ -286,7 +273,8 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
   }
   const bool letter = !event->text().isEmpty() && event->text().front().isLetter();
   if (!letter) return QWidget::keyPressEvent(event);
-  view_.focusPath().WalkToInitial(*this, event->text());
+  const char initial = event->text().front().toLower().toLatin1();
+  view_.focusPath().WalkToInitial(control_, initial);
 }
 
 void ControlWidget::focusInEvent(QFocusEvent* event) {

@@ -29,13 +29,6 @@ class ControlWidget : public QWidget {
   /// Takes its place on the window.
   void Layout(const Mapping& mapping);
 
-  /// True if a click can mean something, be the control enabled or not.
-  bool IsClickable() const;
-  /// True if the keyboard can go to the control now.
-  bool TakesFocus() const;
-  /// The group that the keyboard goes to as to one thing and in which arrow keys walk; null if the
-  /// control is in none.
-  const Group* WalkedGroup() const;
   /// True if the control has the keyboard whenever its window is active.
   bool IsFocusOfItsWindow() const;
   bool IsInHand() const { return shown_.inHand; }

@@ -1,50 +1,47 @@
 #pragma once
 
-#include <QPoint>
-#include <QString>
-#include <map>
+#include <Qt>
 #include <vector>
 
-#include "surface/control.h"
+#include "surface/keyboard.h"
 
 namespace zelvo {
 
 class ControlWidget;
+class WindowView;
 
 /// The way of the keyboard's focus through the controls of one window. The focus never vanishes:
 /// when the control that has it goes, it moves to what the player has in hand or to the first stop.
 class FocusPath {
  public:
-  explicit FocusPath(std::vector<ControlWidget*> widgets);
+  explicit FocusPath(const WindowView& view);
 
   /// The window comes up: the focus starts anew at the first stop.
   void Start();
   /// The control got the focus.
-  void CameTo(ControlWidget& widget);
+  void CameTo(const Control& control);
   /// The control can have the focus no longer, and passes it on if it has it. If it comes back
   /// while the focus still is where it was passed to, as the button that ends the turn does, it
   /// gets the focus again.
-  void Leave(ControlWidget& widget);
-  void ComeBack(ControlWidget& widget);
+  void Leave(const ControlWidget& widget);
+  void ComeBack(const Control& control);
 
   /// Goes to the next or the previous stop. False if there is none.
   bool Tab(bool next);
   /// Goes to the nearest control of a walked group in a direction, as from lot to lot; an option is
   /// selected by that.
-  void Walk(ControlWidget& from, QPoint direction);
-  /// Goes to the next control that shows something with that initial, as from one open lot to the
-  /// next: in the walked group where the keyboard is, else in the first one.
-  void WalkToInitial(ControlWidget& from, const QString& initial);
+  void Walk(const Control& from, Step step);
+  /// Goes to the next control that shows something with that initial.
+  void WalkToInitial(const Control& from, char initial);
 
  private:
-  std::vector<ControlWidget*> Stops() const;
-  std::vector<ControlWidget*> Members(const Group& group) const;
-  ControlWidget* EntryOf(const Group& group) const;
+  void GoTo(const Control& control, Qt::FocusReason reason) const;
 
-  std::vector<ControlWidget*> order_;
-  std::map<const Group*, ControlWidget*> last_;  // where the keyboard was in a walked group
-  ControlWidget* left_ = nullptr;                // went away with the focus
-  ControlWidget* passedTo_ = nullptr;            // and this one got it
+  const WindowView& view_;
+  std::vector<Stop> stops_;
+  LastPlaces last_;
+  const Control* left_ = nullptr;      // went away with the focus
+  const Control* passedTo_ = nullptr;  // and this one got it
 };
 
 }  // namespace zelvo

@@ -63,7 +63,7 @@ WindowView::WindowView(Window& window, Desk& desk)
       window_(window),
       desk_(desk),
       widgets_(MakeWidgets()),
-      focusPath_(widgets_) {
+      focusPath_(*this) {
   MakeGroups();
   setMouseTracking(true);
   if (IsDialog()) setWindowModality(Qt::ApplicationModal);
@@ -90,7 +90,7 @@ ControlGroup* WindowView::GroupOf(const ControlWidget& widget) const {
 std::vector<ControlWidget*> WindowView::MakeWidgets() {
   std::vector<ControlWidget*> widgets;
   for (Control* control : window_.controls()) {
-    if (!IsDrawn(*control)) continue;
+    if (!control->IsDrawn()) continue;
     widgets.push_back(new ControlWidget(*control, *this));
   }
   return widgets;
@@ -361,7 +361,7 @@ void WindowView::FocusOn(const Control& control) {
 }
 
 void WindowView::FocusCame(ControlWidget& widget, Qt::FocusReason reason) {
-  focusPath_.CameTo(widget);
+  focusPath_.CameTo(widget.control());
   widget.update();
   // The lines that tell what lies under the mouse follow the keyboard too, while it is in use.
   if (desk_.usesKeys && reason != Qt::OtherFocusReason) Hover(widget);

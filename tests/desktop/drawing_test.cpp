@@ -196,10 +196,10 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
     EXPECT_TRUE(isNew());
     control->window().inHand = nullptr;
     widget.setAttribute(Qt::WA_UnderMouse);
-    EXPECT_EQ(isNew(), widget.IsClickable());
+    EXPECT_EQ(isNew(), widget.control().IsClickable());
     const QImage hovered = looks.back();
     QTest::mousePress(&widget, Qt::LeftButton);
-    EXPECT_EQ(isNew(), widget.IsClickable());
+    EXPECT_EQ(isNew(), widget.control().IsClickable());
     QEnterEvent released({}, {}, {});
     QCoreApplication::sendEvent(&widget, &released);
     EXPECT_EQ(look(), hovered);

@@ -57,7 +57,7 @@ TEST_F(Speech, WindowsAreTreesOfTheirControls) {
     EXPECT_EQ(Voice(&view)->role(), view.IsDialog() ? QAccessible::Dialog : QAccessible::Window);
     const auto objects = Walked(Voice(&view));
     for (ControlWidget* widget : view.widgets()) {
-      if (!widget->TakesFocus()) continue;
+      if (!TakesFocus(widget->control())) continue;
       EXPECT_EQ(std::ranges::count(objects, widget), 1) << widget->control().FullName();
     }
     game.Hide(*window);

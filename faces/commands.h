@@ -25,6 +25,21 @@ constexpr std::array<CommandDesign, 7> commandDesigns = {{
     {Command::SetPace, "Waits five times as fast", "Ctrl+5", 5},
 }};
 
+/// What those can ask to hear who do not see the windows, by a key of any window. `text` is how a
+/// face hands it on.
+enum class Question : unsigned char { News, Standing };
+
+struct QuestionDesign {
+  Question question;
+  std::string_view text;
+  std::string_view key;
+};
+
+constexpr std::array<QuestionDesign, 2> questionDesigns = {{
+    {Question::News, "say news", "F2"},
+    {Question::Standing, "say standing", "F3"},
+}};
+
 /// The end of the names of kept games.
 constexpr std::string_view keptGameSuffix = "zelvo";
 

@@ -69,18 +69,19 @@ bool TakesFocus(const Control& control) {
 }
 
 std::vector<Control*> ReadingOrder(const Window& window) {
-  std::vector<Control*> placed;
-  std::copy_if(window.controls().begin(), window.controls().end(), std::back_inserter(placed),
-               [](const Control* control) { return control->IsDrawn(); });
-  std::stable_sort(placed.begin(), placed.end(), [](const Control* one, const Control* other) {
-    return one->design().tabLevel < other->design().tabLevel;
-  });
   std::vector<Control*> order;
-  for (Control* control : placed) {
-    const auto mate = std::find_if(order.rbegin(), order.rend(), [control](const Control* other) {
+  for (Control* control : window.controls()) {
+    if (!control->IsDrawn()) continue;
+    // Behind the last that it belongs with, else behind all of its level.
+    auto place = std::find_if(order.rbegin(), order.rend(), [control](const Control* other) {
       return StandTogether(*control, *other);
     });
-    order.insert(mate == order.rend() ? order.end() : mate.base(), control);
+    if (place == order.rend()) {
+      place = std::find_if(order.rbegin(), order.rend(), [control](const Control* other) {
+        return other->design().tabLevel <= control->design().tabLevel;
+      });
+    }
+    order.insert(place.base(), control);
   }
   return order;
 }

@@ -5,7 +5,9 @@
 #include <string_view>
 
 #include "faces/scripted/json_text.h"
+#include "faces/shown.h"
 #include "presentation/cues.h"
+#include "surface/keyboard.h"
 #include "surface/speech.h"
 
 namespace zelvo {
@@ -18,6 +20,10 @@ constexpr std::array<std::string_view, 5> borderNames = {"none", "line", "sunken
                                                          "road"};
 constexpr std::array<std::string_view, 3> speechNames = {"", "news", "standing"};
 constexpr std::array<std::string_view, 4> keyNames = {"", "Escape", "F1", "Ctrl+Enter"};
+/// As the browser names the keys that take a step.
+constexpr std::array<std::string_view, 4> stepKeys = {"ArrowLeft", "ArrowRight", "ArrowUp",
+                                                      "ArrowDown"};
+static_assert(stepKeys.size() == steps.size());
 constexpr std::array<std::string_view, 5> commandNames = {"keep", "goOn", "takeBack", "doAgain",
                                                           "setPace"};
 
@@ -43,7 +49,7 @@ class Object {
     text_.append(text_.empty() ? "{" : ",").append(Quoted(name)).append(":").append(json);
     return *this;
   }
-  std::string Text() const { return text_ + '}'; }
+  std::string Text() const { return (text_.empty() ? "{" : text_) + '}'; }
 
  private:
   std::string text_;
@@ -73,28 +79,63 @@ std::string AsJson(const Look& look) {
       .Text();
 }
 
-std::string AsJson(const Control& control, int window) {
+/// The places of windows and controls in the lists that the page gets, by which it is told of them.
+class Places {
+ public:
+  Places(const std::vector<const Window*>& windows, const std::vector<const Control*>& controls)
+      : windows_(windows), controls_(controls) {}
+  std::string Of(const Window& window) const { return In(windows_, &window); }
+  std::string Of(const Control& control) const { return In(controls_, &control); }
+  std::string Of(const std::vector<Control*>& controls) const {
+    return Array(controls, [this](const Control* control) { return Of(*control); });
+  }
+
+ private:
+  template <class List, class Item>
+  static std::string In(const List& list, Item item) {
+    return Number(static_cast<int>(std::find(list.begin(), list.end(), item) - list.begin()));
+  }
+
+  const std::vector<const Window*>& windows_;
+  const std::vector<const Control*>& controls_;
+};
+
+/// Where each key that takes a step leads to.
+std::string StepsAsJson(const Control& control, bool tall, const Places& places) {
+  Object object;
+  for (const Step step : steps) {
+    const Control* next = Neighbour(control, step, tall);
+    if (next != nullptr) object.Add(stepKeys[static_cast<std::size_t>(step)], places.Of(*next));
+  }
+  return object.Text();
+}
+
+std::string AsJson(const Control& control, const Places& places) {
   const ControlDesign& design = control.design();
-  const bool marked = control.kind() == Kind::Option || control.kind() == Kind::CheckBox;
   Object object;
   object.Add("id", Quoted(std::string(control.window().name()) + "." + control.FullName()))
-      .Add("window", Number(window))
+      .Add("window", places.Of(control.window()))
       .Add("kind", Name(kindNames, control.kind()))
       .Add("box", AsJson(control.Place()))
       .Add("tall", AsJson(control.TallPlace()))
       .Add("look", AsJson(design.look))
-      .Add("clicks", Bool(marked || control.handlers.click != nullptr))
+      .Add("clicks", Bool(control.IsClickable()))
       .Add("hovers", Bool(control.handlers.mouseMove != nullptr))
-      .Add("level", Number(design.tabLevel))
       .Add("speech", Name(speechNames, design.speech))
       .Add("key", Name(keyNames, design.key));
   if (design.group != nullptr) {
     object.Add("group", Quoted(design.group->name)).Add("walked", Bool(design.group->walked));
   }
+  if (WalkedGroup(control) != nullptr) {
+    const std::string wide = StepsAsJson(control, false, places);
+    const std::string tall = StepsAsJson(control, true, places);
+    object.Add("steps", wide);
+    if (tall != wide) object.Add("tallSteps", tall);
+  }
   return object.Text();
 }
 
-std::string AsJson(const Window& window) {
+std::string AsJson(const Window& window, const Places& places) {
   const WindowDesign& design = window.design();
   const std::array tall = {design.tall.width, design.tall.height};
   return Object()
@@ -109,6 +150,8 @@ std::string AsJson(const Window& window) {
       .Add("closes", Bool(window.HasCloseBox()))
       .Add("clicks", Bool(window.handlers.click != nullptr))
       .Add("hovers", Bool(window.handlers.mouseMove != nullptr))
+      .Add("order", places.Of(ReadingOrder(window)))
+      .Add("stops", Array(StopsOf(window), [&](const Stop& stop) { return places.Of(stop); }))
       .Text();
 }
 
@@ -119,6 +162,10 @@ std::string AsJson(const CommandDesign& design) {
       .Add("key", Quoted(design.key))
       .Add("pace", Number(design.pace))
       .Text();
+}
+
+std::string AsJson(const QuestionDesign& design) {
+  return Object().Add("text", Quoted(design.text)).Add("key", Quoted(design.key)).Text();
 }
 
 /// The files of the cues, each once, in the order of the program.
@@ -136,16 +183,18 @@ std::string CuesAsJson() {
 std::string DesignAsJson(const std::vector<const Window*>& windows,
                          const std::vector<const Control*>& controls,
                          std::span<const CommandDesign> commands) {
-  const auto windowJson = [](const Window* window) { return AsJson(*window); };
-  const auto controlJson = [&windows](const Control* control) {
-    const auto window = std::find(windows.begin(), windows.end(), &control->window());
-    return AsJson(*control, static_cast<int>(window - windows.begin()));
-  };
+  const Places places(windows, controls);
+  const auto windowJson = [&](const Window* window) { return AsJson(*window, places); };
+  const auto controlJson = [&](const Control* control) { return AsJson(*control, places); };
   return Object()
       .Add("windows", Array(windows, windowJson))
       .Add("controls", Array(controls, controlJson))
+      .Add("stepKeys", Array(stepKeys, [](std::string_view key) { return Quoted(key); }))
+      .Add("goneFor", Number(goneForMilliseconds))
+      .Add("clearance", Number(clearance))
       .Add("cues", CuesAsJson())
       .Add("commands", Array(commands, [](const CommandDesign& each) { return AsJson(each); }))
+      .Add("questions", Array(questionDesigns, [](const QuestionDesign& q) { return AsJson(q); }))
       .Text();
 }
 

@@ -5,6 +5,7 @@
 #include "faces/browser/design.h"
 #include "faces/browser/host.h"
 #include "faces/scripted/json_text.h"
+#include "surface/keyboard.h"
 #include "surface/speech.h"
 #include "surface/windows/picture.h"
 
@@ -19,7 +20,9 @@ std::string AsJson(int index, const Control& control, const Shown& shown) {
   if (control.kind() == Kind::TextBox) json.append(",\"text\":").append(Quoted(shown.text));
   json.append(",\"picture\":").append(Quoted(PictureFile(shown.picture)));
   json.append(",\"name\":").append(Quoted(SpokenName(control)));
-  json.append(",\"content\":").append(Quoted(SpokenContent(control)));
+  if (const char initial = InitialOf(control)) {
+    json.append(",\"initial\":").append(Quoted(std::string_view(&initial, 1)));
+  }
   json.append(",\"enabled\":").append(Bool(shown.enabled));
   json.append(",\"value\":").append(Bool(shown.value));
   json.append(",\"visible\":").append(Bool(shown.visible));
@@ -66,15 +69,20 @@ void Page::SyncCommands(bool canTakeBack, bool canDoAgain) {
   if (can_ != can) Tell("can", can_ = can);
 }
 
-bool Page::Answer(std::string_view question) {
-  const bool news = question == "say news";
-  if (!news && question != "say standing") return false;
-  std::string said;
-  if (!news) said = SpokenStanding(surface_);
-  if (news && !surface_.Stack().empty()) said = SpokenNews(*surface_.Stack().back());
-  Tell("said", Quoted(said));
+bool Page::Answer(std::string_view asked) {
+  const auto design =
+      std::find_if(questionDesigns.begin(), questionDesigns.end(),
+                   [asked](const QuestionDesign& each) { return each.text == asked; });
+  if (design == questionDesigns.end()) return false;
+  Tell("said", Quoted(AnswerTo(design->question)));
   Sync();
   return true;
+}
+
+std::string Page::AnswerTo(Question question) const {
+  if (question == Question::Standing) return SpokenStanding(surface_);
+  if (!messages_.empty()) return messages_.back().text;
+  return surface_.Stack().empty() ? "" : SpokenNews(*surface_.Stack().back());
 }
 
 /// The open windows as they stand, the lowest first, and all titles that are new.
@@ -118,13 +126,13 @@ void Page::OpenMessage(std::string_view text, MessageStyle style, std::string_vi
   json.append(",\"title\":").append(Quoted(title));
   json.append(",\"asks\":").append(Bool(style == MessageStyle::YesNoQuestion));
   json.append(",\"warns\":").append(Bool(style == MessageStyle::OkExclamation));
-  messages_.push_back(json + '}');
-  Tell("message", messages_.back());
+  messages_.push_back({std::string(text), json + '}'});
+  Tell("message", messages_.back().json);
 }
 
 void Page::CloseMessage() {
   messages_.pop_back();
-  Tell("message", messages_.empty() ? "null" : messages_.back());
+  Tell("message", messages_.empty() ? "null" : messages_.back().json);
 }
 
 void Page::SetPointer(MousePointer pointer) {

@@ -28,9 +28,9 @@ class Page {
   /// Tells the page which of those can be done now.
   void SyncCommands(bool canTakeBack, bool canDoAgain);
 
-  /// Answers what the page asks of nobody but the game as it stands: "say news" and "say standing"
-  /// have those hear it who ask for it. False if it is no such question.
-  bool Answer(std::string_view question);
+  /// Answers what the page asks of nobody but the game as it stands (`questionDesigns`): those hear
+  /// it who ask for it. False if it is no such question.
+  bool Answer(std::string_view asked);
   /// Tells the player something; the game stands still until he has read it.
   void Warn(std::string_view text);
 
@@ -50,6 +50,12 @@ class Page {
     std::string title;
   };
 
+  struct Message {
+    std::string text;
+    std::string json;
+  };
+
+  std::string AnswerTo(Question question) const;
   void SyncFrames();
   void SyncControls();
   void Tell(std::string_view name, std::string_view json);
@@ -60,8 +66,8 @@ class Page {
   // The page knows controls and windows by their places here.
   std::vector<Drawn> drawn_;
   std::vector<Frame> frames_;
-  std::vector<Window*> stack_;         // of open windows, as last told
-  std::vector<std::string> messages_;  // open ones as JSON, innermost last
+  std::vector<Window*> stack_;     // of open windows, as last told
+  std::vector<Message> messages_;  // open ones, innermost last
   std::string waiting_;
   std::string can_;      // which commands, as last told
   std::string changes_;  // members of a JSON object that the page has still to be told

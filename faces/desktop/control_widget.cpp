@@ -13,11 +13,6 @@
 namespace zelvo {
 namespace {
 
-/// A control that is hidden stays gone for this many milliseconds, even if it is shown again at
-/// once: the lot that the game points at twitches for no longer than a pass of a loop, too short
-/// for any screen.
-constexpr int goneForMilliseconds = 90;
-
 constexpr int markSize = 200;  // twips
 constexpr int markGap = 90;    // twips
 

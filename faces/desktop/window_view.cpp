@@ -3,6 +3,7 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
@@ -10,6 +11,7 @@
 #include <cmath>
 #include <utility>
 
+#include "faces/commands.h"
 #include "faces/desktop/placing.h"
 #include "surface/speech.h"
 
@@ -21,8 +23,6 @@ constexpr double twipsPerPixel = 15;  // at scale 1
 constexpr double shareOfScreen = 0.84;
 /// How small the player can make a window.
 constexpr double smallestScale = 0.5;
-/// What stays free around a control that a dialog keeps clear of, twips.
-constexpr int clearance = 120;
 
 Qt::WindowFlags FlagsOf(TitleBar titleBar) {
   constexpr Qt::WindowFlags titled =
@@ -291,20 +291,27 @@ void WindowView::closeEvent(QCloseEvent* event) {
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {
-  if (event->isAutoRepeat() || IsSpeechKey(event->key())) return;
+  if (event->isAutoRepeat() || IsQuestion(event->key())) return;
   const Key key = KeyOf(*event);
   if (key != Key::None) PressByKey(key);
 }
 
 /// Tells those who do not see the game what they ask for.
-bool WindowView::IsSpeechKey(int key) {
-  if (key == Qt::Key_F2) desk_.voice.Say(QString::fromStdString(SpokenNews(window_)));
-  if (key == Qt::Key_F3) {
+bool WindowView::IsQuestion(int key) {
+  const auto design = std::find_if(
+      questionDesigns.begin(), questionDesigns.end(), [key](const QuestionDesign& each) {
+        return QKeySequence(QString::fromLatin1(
+                   each.key.data(), static_cast<qsizetype>(each.key.size()))) == QKeySequence(key);
+      });
+  if (design == questionDesigns.end()) return false;
+  if (design->question == Question::News) {
+    desk_.voice.Say(QString::fromStdString(SpokenNews(window_)));
+  } else {
     desk_.Deliver([this](Surface& surface) {
       desk_.voice.Say(QString::fromStdString(SpokenStanding(surface)));
     });
   }
-  return key == Qt::Key_F2 || key == Qt::Key_F3;
+  return true;
 }
 
 void WindowView::PressByKey(Key key) {

@@ -89,7 +89,7 @@ class WindowView : public QWidget {
   bool MustStayMinimised() const;
   void TellSize();
   void DeliverClick(const std::function<void(Surface&)>& click);
-  bool IsSpeechKey(int key);
+  bool IsQuestion(int key);
   void PressByKey(Key key);
 
   Window& window_;

@@ -134,6 +134,55 @@ test('the keyboard alone plays, with the keys of the desktop', async () => {
   assert.equal([...stops].filter((id) => id?.startsWith('GFM.Image1')).length, 1, 'the board is one stop');
 });
 
+for (const [width, height] of [[1280, 900], [390, 844]]) {
+  test(`the keyboard is where the desktop has it at ${width} by ${height}`, async () => {
+    const page = await virtualGame('', { viewport: { width, height } });
+    const here = () => page.evaluate(() => document.activeElement.dataset.control);
+    const goes = async (ways) => {
+      for (const [key, to] of ways) {
+        await page.keyboard.press(key);
+        await waiting(page);
+        assert.equal(await here(), to, key);
+      }
+    };
+    await goes([
+      ['Enter', 'GFM.Image1(0)'], ['ArrowUp', 'GFM.Image1(0)'], ['ArrowLeft', 'GFM.Image1(0)'],
+      ['Enter', 'GFM.Image1(0)'], ['Tab', 'GFM.CMDBUILD'], ['Enter', 'GFM.BUILDIT'],
+      ['Shift+Tab', 'GFM.SUPER'], ['ArrowRight', 'GFM.THRIFTY'], ['ArrowDown', 'GFM.Rest'],
+      ['ArrowUp', 'GFM.SUPER'], ['h', 'GFM.HILTON'], ['Shift+Tab', 'GFM.CMDSELL'],
+      ['Shift+Tab', 'GFM.Image1(0)'], ['ArrowRight', 'GFM.Image1(1)'], ['ArrowDown', 'GFM.Image1(11)'],
+      // A letter that fits no building goes on to the board, also from a button.
+      ['Tab', 'GFM.CMDSELL'], ['Tab', 'GFM.HILTON'], ['c', 'GFM.Image1(99)'], ['p', 'GFM.Image1(0)'],
+      ['Tab', 'GFM.CMDSELL'], ['C', 'GFM.Image1(99)'], ['q', 'GFM.Image1(99)'],
+    ]);
+    // Hidden lots are passed over, and the button that goes for a turn is gone back to.
+    for (const lot of [98, 97]) {
+      await page.evaluate((at) => window.zelvo.play(`set GFM.Image1(${at}).Visible 0`), lot);
+    }
+    await goes([['ArrowLeft', 'GFM.Image1(96)'], ['ArrowRight', 'GFM.Image1(99)']]);
+    await page.focus(at('GFM.CMDGO'));
+    await goes([['Enter', 'GFM.CMDGO']]);
+    const stray = await page.evaluate(() => [...document.querySelectorAll('*')].filter(({ tabIndex }) => tabIndex > 0).length);
+    assert.equal(stray, 0, 'Tab goes by the order of the document');
+  });
+}
+
+test('what a message box says is said again', async () => {
+  const page = await virtualGame();
+  for (const command of ['click GST.CMDSTART', 'set GFM.PCredit.Caption "$1,000"', 'set GFM.Image1(6).Tag "O"',
+    'set GFM.Image1(6).Picture "ICF.LOPEN"', 'click GFM.Image1(6)', 'click GFM.CMDBUY']) {
+    await page.evaluate((text) => window.zelvo.play(text), command);
+  }
+  await waiting(page, 'message box');
+  await page.keyboard.press('F2');
+  const text = await page.textContent('.message .text');
+  await page.waitForFunction((expected) => document.querySelector('.message .said')?.textContent === expected,
+    text, { timeout: limit });
+  await page.keyboard.press('Escape');
+  await waiting(page, 'GFM');
+  assert.equal((await deeds(page)).at(-1), 'answer no');
+});
+
 test('a screen reader hears what everything is', async () => {
   const page = await virtualGame();
   await page.evaluate(bringPlayers, 5);

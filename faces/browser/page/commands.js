@@ -1,6 +1,7 @@
 // What the player can do with the game as a whole: the menu of it, its keys, and the files of kept
 // games. The game stands still while something of this is open.
 
+import { makeBox } from './dialogs.js';
 import { make } from './element.js';
 
 const longTouch = 600;  // milliseconds
@@ -115,16 +116,9 @@ export class Commands {
   }
 
   #warn(sentence) {
-    const ok = make('button', 'answer', 'OK');
-    const text = make('p', 'text', sentence);
-    text.id = 'notice';
-    const dialog = make('dialog', 'window message warns own',
-      make('header', 'bar', make('span', 'title', 'Zelvo')), text, make('div', 'answers', ok));
-    dialog.dataset.window = 'notice';
-    dialog.setAttribute('aria-label', 'Zelvo');
-    dialog.setAttribute('aria-describedby', text.id);
-    ok.addEventListener('click', () => dialog.close());
-    this.#open(dialog);
+    const notice = makeBox('notice', 'warns own', { title: 'Zelvo', text: sentence, answers: ['OK'] });
+    notice.querySelector('.answer').addEventListener('click', () => notice.close());
+    this.#open(notice);
   }
 
   #openMenu(left, top) {

@@ -3,6 +3,9 @@
 const step = 0.95;
 const smallest = 0.3;
 
+/// A caption for the screen: its line breaks are single ones there.
+export const screenText = (caption) => caption.replaceAll('\r', '');
+
 /// The letters of these elements get smaller until each text lies within its element. All are
 /// measured together, so that the page is laid out once a step and not once a text.
 export function fit(elements) {

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "surface/colors.h"
 #include "surface/picture_id.h"
 
 namespace zelvo {
@@ -30,13 +31,9 @@ struct Box {
 enum class Align : unsigned char { Left, Center, Right };
 enum class Border : unsigned char { None, Line, Sunken, Raised, Road };
 
-/// A colour as 0xRRGGBB, or `transparent`.
-using Color = int;
-constexpr Color transparent = -1;
-
 /// How a face is to draw a control. Design-time data only: no rule reads it.
 struct Look {
-  Color ink = 0x1d2530;
+  Color ink = colors::ink;
   Color ground = transparent;
   int letterHeight = 200;  ///< twips; a face may draw smaller to make a long text fit
   bool bold = false;

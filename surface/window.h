@@ -37,7 +37,7 @@ struct WindowDesign {
   int width = 0;   ///< of the client area, twips
   int height = 0;  ///< of the client area, twips
   TitleBar titleBar = TitleBar::NoButtons;
-  Color ground = 0xd7d9dc;
+  Color ground = colors::ground;
   /// What the window is, for those who do not see it; empty where its title says it.
   std::string_view label = {};
   TallDesign tall = {};

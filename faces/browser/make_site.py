@@ -9,6 +9,7 @@ import json
 import pathlib
 import re
 import shutil
+import string
 import subprocess
 import sys
 
@@ -23,14 +24,21 @@ def small_drawing(text):
     return text.replace("<svg ", '<svg preserveAspectRatio="none" ', 1)
 
 
-def write_pages(pages, site):
+def read_colors(header):
+    """The colours by name, as a style sheet writes them."""
+    colors = re.findall(r"^constexpr Color (\w+) = 0x([0-9a-f]{6});", header.read_text(), re.M)
+    return {name: f"#{color}" for name, color in colors}
+
+
+def write_pages(pages, colors, site):
     """Scripts and the style sheet get small. The modules that the page starts with become one file;
-    what is fetched later stays by itself."""
+    what is fetched later stays by itself. A $ and a name stand for a colour."""
     for page in pages.iterdir():
-        if page.suffix not in {".js", ".css"}:
-            shutil.copy(page, site)
+        if page.suffix != ".js":
+            (site / page.name).write_text(string.Template(page.read_text()).substitute(colors))
     esbuild = ["esbuild", "--minify", "--log-level=warning", f"--outdir={site}"]
-    subprocess.run([*esbuild, pages / "start.js", pages / "worker.js", pages / "style.css"], check=True)
+    subprocess.run([*esbuild, "--allow-overwrite", site / "style.css"], check=True)
+    subprocess.run([*esbuild, pages / "start.js", pages / "worker.js"], check=True)
     subprocess.run([*esbuild, "--bundle", "--format=esm", "--external:./commands.js",
                     pages / "main.js", pages / "commands.js"], check=True)
 
@@ -79,7 +87,7 @@ def main():
     site = final.with_name(final.name + ".new")
     shutil.rmtree(site, ignore_errors=True)
     site.mkdir(parents=True)
-    write_pages(source / "faces/browser/page", site)
+    write_pages(source / "faces/browser/page", read_colors(source / "surface/colors.h"), site)
     write_pictures(source / "assets/pictures", site)
     write_sounds(source / "assets/sounds", site)
     for program in ["zelvo.wasm", "zelvo-asyncify.wasm"]:

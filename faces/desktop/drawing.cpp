@@ -13,17 +13,13 @@ namespace zelvo {
 namespace {
 
 // The windows bring their own colours, so that a light and a dark desktop show the same game.
-constexpr QRgb outline = 0xff6f7883;
+constexpr QRgb Solid(Color color) { return 0xff000000U | static_cast<QRgb>(color); }
+constexpr QRgb outline = Solid(colors::outline);
 constexpr QRgb buttonTop = 0xffffffff;
-constexpr QRgb buttonFoot = 0xffdfe3e8;
-constexpr QRgb buttonHovered = 0xffe8f1ff;
-constexpr QRgb buttonPressed = 0xffc3ccd6;
-constexpr QRgb accent = 0xff1f5fbf;
-constexpr QRgb focusInner = 0xffffb000;
-constexpr QRgb focusOuter = 0xff10294f;
-constexpr QRgb inHand = 0xffffd23f;
-constexpr QRgb kerb = 0xff7d848d;
-constexpr QRgb lane = 0xffe3c75a;
+constexpr QRgb buttonFoot = Solid(colors::buttonFoot);
+constexpr QRgb buttonHovered = Solid(colors::buttonHovered);
+constexpr QRgb buttonPressed = Solid(colors::buttonPressed);
+constexpr QRgb accent = Solid(colors::accent);
 
 double AtLeastOne(double pixels) { return std::max(1.0, pixels); }
 
@@ -88,7 +84,7 @@ void DrawKerbs(QPainter& painter, const QRectF& area, bool vertical, double unit
   const double width = AtLeastOne(12 * unit);
   const double half = width / 2;
   const QRectF road = area.adjusted(half, half, -half, -half);
-  painter.setPen(Line(kerb, width));
+  painter.setPen(Line(Solid(colors::kerb), width));
   if (vertical) {
     painter.drawLine(road.topLeft(), road.bottomLeft());
     painter.drawLine(road.topRight(), road.bottomRight());
@@ -189,7 +185,7 @@ void DrawLanes(QPainter& painter, const QRectF& area, bool vertical, double unit
   const double dash = 110 * unit;
   const double width = AtLeastOne(14 * unit);
   const double reach = (vertical ? area.height() : area.width()) / 2;
-  QPen pen = Line(lane, width);
+  QPen pen = Line(Solid(colors::lane), width);
   pen.setDashPattern({dash / width, dash / width});
   painter.setPen(pen);
   // From the middle to both ends, so that the halves look alike.
@@ -265,14 +261,16 @@ void DrawHover(QPainter& painter, const QRectF& area, Standing standing, double 
 
 void DrawFocus(QPainter& painter, const QRectF& area, double unit) {
   const double width = AtLeastOne(22 * unit);
-  DrawFrame(painter, area, focusOuter, width);
-  DrawFrame(painter, area.adjusted(width, width, -width, -width), focusInner, width * 1.5);
+  DrawFrame(painter, area, Solid(colors::night), width);
+  DrawFrame(painter, area.adjusted(width, width, -width, -width), Solid(colors::focus),
+            width * 1.5);
 }
 
 void DrawInHand(QPainter& painter, const QRectF& area, double unit) {
   const double width = AtLeastOne(30 * unit);
-  DrawFrame(painter, area, inHand, width);
-  DrawFrame(painter, area.adjusted(width, width, -width, -width), 0x8010294f, AtLeastOne(8 * unit));
+  DrawFrame(painter, area, Solid(colors::inHand), width);
+  DrawFrame(painter, area.adjusted(width, width, -width, -width), 0x80000000U | colors::night,
+            AtLeastOne(8 * unit));
 }
 
 }  // namespace zelvo

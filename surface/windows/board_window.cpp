@@ -42,8 +42,8 @@ constexpr std::array<Strip, 13> streets = {{
     {"", {eastLots, 4080, lotSize, 120}},
 }};
 
-constexpr std::array<Color, 6> lights = {0xd22f2f, 0xf08fb0, 0x8cc8f0,
-                                         0x3fa34d, 0xf2cf3a, looks::bankTeal};
+constexpr std::array<Color, 6> lights = {0xd22f2f, 0xf08fb0,    0x8cc8f0,
+                                         0x3fa34d, looks::gold, looks::bankTeal};
 
 constexpr Group boardGroup = {"Board", true};
 constexpr Group streetGroup = {"Streets"};
@@ -150,7 +150,7 @@ void GFMWindow::PlaceLedgers() {
           {.caption = "UP",
            .visible = false,
            .look = {.ink = ink,
-                    .ground = 0xf2cf3a,
+                    .ground = gold,
                     .letterHeight = 170,
                     .bold = true,
                     .align = Align::Center},

@@ -5,16 +5,18 @@
 /// The colours and text styles of the windows.
 namespace zelvo::looks {
 
-constexpr Color ink = 0x1d2530;
+using colors::cream;
+using colors::ink;
+using colors::night;
+
 constexpr Color white = 0xffffff;
 constexpr Color face = 0xe9ebee;
-constexpr Color playerBlue = 0x1f5fbf;
+constexpr Color playerBlue = colors::accent;
 constexpr Color computerRed = 0x8f1f24;
 constexpr Color bankTeal = 0x0f6f69;
 constexpr Color asphalt = 0x3a3f46;
 constexpr Color roadLetters = 0xf4f1e4;
-constexpr Color night = 0x10294f;
-constexpr Color cream = 0xfbf6e9;
+constexpr Color gold = 0xf2cf3a;
 
 /// A heading in white letters on a side's colour.
 constexpr Look Heading(Color ground, Align align = Align::Left) {

@@ -146,11 +146,10 @@ TTWindow::TTWindow(Surface& surface)
 
 WINXWindow::WINXWindow(Surface& surface)
     : Window(surface, {"WINX", "The Winner is", 6600, 2376, TitleBar::NoButtons, night}) {
-  constexpr Look gold = {
-      .ink = 0xf2cf3a, .letterHeight = 420, .bold = true, .align = Align::Center};
+  constexpr Look golden = {.ink = gold, .letterHeight = 420, .bold = true, .align = Align::Center};
   constexpr Look plain = {.ink = white, .letterHeight = 330, .bold = true, .align = Align::Center};
   Place(NAMED(Label1), Kind::Label, {180, 180, 4920, 600},
-        {.caption = "LABEL 1", .look = gold, .speech = Speech::News});
+        {.caption = "LABEL 1", .look = golden, .speech = Speech::News});
   Place(NAMED(Label2), Kind::Label, {180, 860, 4920, 560},
         {.caption = "LABEL 2", .look = plain, .speech = Speech::News});
   Place(NAMED(Label3), Kind::Label, {180, 1500, 4920, 560},

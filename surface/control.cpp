@@ -42,9 +42,9 @@ Box Control::Place() const {
   return place;
 }
 
-Box Control::TallPlace() const {
+Box Control::Place(const Arrangement& arrangement) const {
   const Box place = Place();
-  const auto& parts = window_->design().tall.parts;
+  const auto& parts = arrangement.parts;
   const auto part = std::find_if(parts.begin(), parts.end(),
                                  [&](const MovedPart& p) { return p.from.Holds(place); });
   if (part == parts.end()) return place;

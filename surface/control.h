@@ -10,6 +10,7 @@ namespace zelvo {
 
 class Game;
 class Window;
+struct Arrangement;
 
 /// What a control is. The options of one window form one group.
 enum class Kind : unsigned char { Button, CheckBox, Option, Label, Image, Panel, TextBox, Timer };
@@ -140,8 +141,8 @@ class Control {
   const ControlDesign& design() const { return design_; }
   /// The place in the window in twips, containers reckoned in.
   Box Place() const;
-  /// The place in the arrangement of the window for a tall screen.
-  Box TallPlace() const;
+  /// The place in another arrangement of the window; the same in one that the window has not.
+  Box Place(const Arrangement& arrangement) const;
   /// True for what a face draws, once it is visible: no timers, and nothing beyond the window.
   bool IsDrawn() const;
   /// True if a click can mean something, be the control enabled or not.

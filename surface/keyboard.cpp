@@ -133,18 +133,15 @@ Control* NextEntry(const std::vector<Stop>& stops, const LastPlaces& last, const
   return nullptr;
 }
 
-Control* Neighbour(const Control& from, Step step, bool tall) {
+Control* Neighbour(const Control& from, Step step, const Arrangement& arrangement) {
   const Group* group = WalkedGroup(from);
   if (group == nullptr) return nullptr;
-  const auto placeOf = [tall](const Control& control) {
-    return tall ? control.TallPlace() : control.Place();
-  };
-  const Box here = placeOf(from);
+  const Box here = from.Place(arrangement);
   Control* nearest = nullptr;
   int shortest = 0;
   for (Control* control : from.window().controls()) {
     if (WalkedGroup(*control) != group || !control->IsDrawn()) continue;
-    const Progress progress = ProgressOf(WayBetween(here, placeOf(*control)), step);
+    const Progress progress = ProgressOf(WayBetween(here, control->Place(arrangement)), step);
     if (progress.ahead <= 0) continue;
     const int distance = DistanceOf(progress);
     if (nearest != nullptr && distance >= shortest) continue;

@@ -43,7 +43,7 @@ Control* NextEntry(const std::vector<Stop>& stops, const LastPlaces& last, const
                    bool forward);
 
 /// The nearest control of the same walked group that way, be it there now or not; null at the edge.
-Control* Neighbour(const Control& from, Step step, bool tall = false);
+Control* Neighbour(const Control& from, Step step, const Arrangement& arrangement = {});
 /// The first one that way that takes the focus; null if none does.
 Control* Walk(const Control& from, Step step);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,12 +24,12 @@ struct MovedPart {
   Box to;
 };
 
-/// A second arrangement of a window, for screens that are higher than wide.
-struct TallDesign {
+/// Another arrangement of a window, for screens of another shape.
+struct Arrangement {
   int width = 0;   ///< of the client area, twips; 0 for a window without one
   int height = 0;  ///< of the client area, twips
   /// The first part that holds a control takes it along.
-  std::vector<MovedPart> parts = {};
+  std::span<const MovedPart> parts = {};
 };
 
 struct WindowDesign {
@@ -40,7 +41,8 @@ struct WindowDesign {
   Color ground = colors::ground;
   /// What the window is, for those who do not see it; empty where its title says it.
   std::string_view label = {};
-  TallDesign tall = {};
+  Arrangement tall = {};  ///< for screens that are higher than wide
+  Arrangement low = {};   ///< for the others, where it gets no smaller there
   /// It takes input whenever no modal window is up.
   bool isMain = false;
 };

@@ -116,11 +116,12 @@ TEST_F(KeyboardOrder, AStepGoesToTheNearestThatWayAndPassesOverWhatIsGone) {
         {setup, "OPT1(1)", {"", "", "OPT1(0)", "OPT1(2)"}},
         {setup, "BEST", {"QUALITY", "RAMADA", "GOLF", "MAN1"}},
         {board, "CMDGO", {"", "", "", ""}}}) {
-    for (const bool tall : {false, true}) {
+    const WindowDesign& design = way.window.design();
+    for (const Arrangement& arrangement : {Arrangement{}, design.tall, design.low}) {
       Names to;
       for (const Step step : steps)
-        to.push_back(NameOf(Neighbour(Find(way.window, way.from), step, tall)));
-      EXPECT_EQ(to, way.to) << way.from << (tall ? ", tall" : "");
+        to.push_back(NameOf(Neighbour(Find(way.window, way.from), step, arrangement)));
+      EXPECT_EQ(to, way.to) << way.from << ", width " << arrangement.width;
     }
   }
   const Control& lot = Find(board, "Image1(96)");

@@ -74,9 +74,10 @@ std::ostream& operator<<(std::ostream& out, const Box& box) {
 void Describe(std::ostream& out, const Window& window) {
   const WindowDesign& design = window.design();
   out << design.name << " \"" << window.Caption << "\" " << design.width << ' ' << design.height
-      << ", tall " << design.tall.width << ' ' << design.tall.height << ", title bar "
-      << static_cast<int>(design.titleBar) << ", ground " << std::hex << design.ground << std::dec
-      << ", spoken " << SpokenName(window) << '\n';
+      << ", tall " << design.tall.width << ' ' << design.tall.height;
+  if (design.low.width != 0) out << ", low " << design.low.width << ' ' << design.low.height;
+  out << ", title bar " << static_cast<int>(design.titleBar) << ", ground " << std::hex
+      << design.ground << std::dec << ", spoken " << SpokenName(window) << '\n';
 }
 
 /// All that a face finds out about a control.
@@ -84,13 +85,16 @@ void Describe(std::ostream& out, const Control& control) {
   const ControlDesign& design = control.design();
   const Look& look = design.look;
   const Handlers& handlers = control.handlers;
+  const WindowDesign& window = control.window().design();
   out << control.window().name() << '.' << control.FullName() << ", kind "
       << static_cast<int>(control.kind()) << ", at" << control.Place() << ", tall"
-      << control.TallPlace() << ", ink " << std::hex << look.ink << " on " << look.ground
-      << std::dec << ", letters " << look.letterHeight << (look.bold ? " bold" : "")
-      << (look.vertical ? " vertical" : "") << ", text " << static_cast<int>(look.align) << " in "
-      << look.textShare << ", border " << static_cast<int>(look.border)
-      << (design.visible ? "" : ", hidden") << (handlers.click != nullptr ? ", click" : "")
+      << control.Place(window.tall);
+  if (window.low.width != 0) out << ", low" << control.Place(window.low);
+  out << ", ink " << std::hex << look.ink << " on " << look.ground << std::dec << ", letters "
+      << look.letterHeight << (look.bold ? " bold" : "") << (look.vertical ? " vertical" : "")
+      << ", text " << static_cast<int>(look.align) << " in " << look.textShare << ", border "
+      << static_cast<int>(look.border) << (design.visible ? "" : ", hidden")
+      << (handlers.click != nullptr ? ", click" : "")
       << (handlers.mouseMove != nullptr ? ", move" : "")
       << (handlers.timer != nullptr ? ", timer" : "")
       << (handlers.dropsClicksWhileBusy ? ", drops clicks" : "") << ", speech "
@@ -300,26 +304,33 @@ TEST(AutoPlayer, DoesNoHarmUnlessItIsTold) {
   EXPECT_EQ(game.PlayerLoan, Currency());
 }
 
-TEST(Surface, InATallArrangementEverythingLiesInTheWindowAndNothingOnAnotherThing) {
-  AutoPlayer player;
-  int tallWindows = 0;
-  for (const Window* window : player.game().Windows()) {
-    const TallDesign& tall = window->design().tall;
-    if (tall.width == 0) continue;
-    ++tallWindows;
-    const Box all = {0, 0, tall.width, tall.height};
-    for (const Control* one : window->controls()) {
-      if (one->kind() == Kind::Timer) continue;
-      EXPECT_TRUE(all.Holds(one->TallPlace())) << window->name() << "." << one->FullName();
-      for (const Control* other : window->controls()) {
-        if (other == one || other->kind() == Kind::Timer) continue;
-        EXPECT_EQ(Overlap(one->TallPlace(), other->TallPlace()),
-                  Overlap(one->Place(), other->Place()))
-            << window->name() << ": " << one->FullName() << " and " << other->FullName();
-      }
+void ExpectOrderly(const Window& window, const Arrangement& arrangement) {
+  const Box all = {0, 0, arrangement.width, arrangement.height};
+  for (const Control* one : window.controls()) {
+    if (one->kind() == Kind::Timer) continue;
+    const Box place = one->Place(arrangement);
+    EXPECT_TRUE(all.Holds(place)) << window.name() << "." << one->FullName();
+    for (const Control* other : window.controls()) {
+      if (other == one || other->kind() == Kind::Timer) continue;
+      EXPECT_EQ(Overlap(place, other->Place(arrangement)), Overlap(one->Place(), other->Place()))
+          << window.name() << ": " << one->FullName() << " and " << other->FullName();
     }
   }
-  EXPECT_EQ(tallWindows, 3);
+}
+
+TEST(Surface, InEachArrangementEverythingLiesInTheWindowAndNothingOnAnotherThing) {
+  AutoPlayer player;
+  int arrangements = 0;
+  for (const Window* window : player.game().Windows()) {
+    const WindowDesign& design = window->design();
+    for (const Arrangement& arrangement : {design.tall, design.low}) {
+      if (arrangement.width == 0) continue;
+      SCOPED_TRACE(arrangement.width);
+      ++arrangements;
+      ExpectOrderly(*window, arrangement);
+    }
+  }
+  EXPECT_EQ(arrangements, 5);
 }
 
 }  // namespace

@@ -66,6 +66,11 @@ std::string AsJson(const Box& box) {
   return Array(std::array{box.left, box.top, box.width, box.height}, Number);
 }
 
+/// Null for an arrangement that the window has not.
+std::string SizeAsJson(int width, int height) {
+  return width == 0 ? "null" : Array(std::array{width, height}, Number);
+}
+
 std::string AsJson(const Look& look) {
   return Object()
       .Add("ink", ColorText(look.ink))
@@ -101,10 +106,11 @@ class Places {
 };
 
 /// Where each key that takes a step leads to.
-std::string StepsAsJson(const Control& control, bool tall, const Places& places) {
+std::string StepsAsJson(const Control& control, const Arrangement& arrangement,
+                        const Places& places) {
   Object object;
   for (const Step step : steps) {
-    const Control* next = Neighbour(control, step, tall);
+    const Control* next = Neighbour(control, step, arrangement);
     if (next != nullptr) object.Add(stepKeys[static_cast<std::size_t>(step)], places.Of(*next));
   }
   return object.Text();
@@ -112,12 +118,14 @@ std::string StepsAsJson(const Control& control, bool tall, const Places& places)
 
 std::string AsJson(const Control& control, const Places& places) {
   const ControlDesign& design = control.design();
+  const WindowDesign& window = control.window().design();
   Object object;
   object.Add("id", Quoted(std::string(control.window().name()) + "." + control.FullName()))
       .Add("window", places.Of(control.window()))
       .Add("kind", Name(kindNames, control.kind()))
       .Add("box", AsJson(control.Place()))
-      .Add("tall", AsJson(control.TallPlace()))
+      .Add("tall", AsJson(control.Place(window.tall)))
+      .Add("low", AsJson(control.Place(window.low)))
       .Add("look", AsJson(design.look))
       .Add("clicks", Bool(control.IsClickable()))
       .Add("hovers", Bool(control.handlers.mouseMove != nullptr))
@@ -127,23 +135,22 @@ std::string AsJson(const Control& control, const Places& places) {
     object.Add("group", Quoted(design.group->name)).Add("walked", Bool(design.group->walked));
   }
   if (WalkedGroup(control) != nullptr) {
-    const std::string wide = StepsAsJson(control, false, places);
-    const std::string tall = StepsAsJson(control, true, places);
-    object.Add("steps", wide);
-    if (tall != wide) object.Add("tallSteps", tall);
+    object.Add("steps", Object()
+                            .Add("box", StepsAsJson(control, {}, places))
+                            .Add("tall", StepsAsJson(control, window.tall, places))
+                            .Add("low", StepsAsJson(control, window.low, places))
+                            .Text());
   }
   return object.Text();
 }
 
 std::string AsJson(const Window& window, const Places& places) {
   const WindowDesign& design = window.design();
-  const std::array tall = {design.tall.width, design.tall.height};
   return Object()
       .Add("id", Quoted(design.name))
-      .Add("name", Quoted(SpokenName(window)))
-      .Add("width", Number(design.width))
-      .Add("height", Number(design.height))
-      .Add("tall", design.tall.width == 0 ? "null" : Array(tall, Number))
+      .Add("box", SizeAsJson(design.width, design.height))
+      .Add("tall", SizeAsJson(design.tall.width, design.tall.height))
+      .Add("low", SizeAsJson(design.low.width, design.low.height))
       .Add("ground", ColorText(design.ground))
       .Add("dialog", Bool(design.titleBar != TitleBar::Sizable))
       .Add("titled", Bool(design.titleBar != TitleBar::NoBorder))

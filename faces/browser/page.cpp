@@ -103,7 +103,8 @@ void Page::SyncFrames() {
     if (!frame.window->IsShown() || frame.title == frame.window->Caption) continue;
     frame.title = frame.window->Caption;
     titles.append(titles.empty() ? "" : ",").append("{\"at\":").append(Number(i));
-    titles.append(",\"title\":").append(Quoted(frame.title)) += '}';
+    titles.append(",\"title\":").append(Quoted(frame.title));
+    titles.append(",\"name\":").append(Quoted(SpokenName(*frame.window))) += '}';
   }
   if (!titles.empty()) Tell("titles", '[' + titles + ']');
 }
@@ -124,8 +125,7 @@ void Page::Warn(std::string_view text) { Tell("notice", Quoted(text)); }
 void Page::OpenMessage(std::string_view text, MessageStyle style, std::string_view title) {
   std::string json = "{\"text\":" + Quoted(text);
   json.append(",\"title\":").append(Quoted(title));
-  json.append(",\"asks\":").append(Bool(style == MessageStyle::YesNoQuestion));
-  json.append(",\"warns\":").append(Bool(style == MessageStyle::OkExclamation));
+  json.append(",\"style\":").append(Number(static_cast<int>(style)));
   messages_.push_back({std::string(text), json + '}'});
   Tell("message", messages_.back().json);
 }

@@ -52,22 +52,61 @@ constexpr Group newsGroup = {"News"};
 constexpr Group actionGroup = {"Actions"};
 constexpr Group classGroup = {"Buildings", true};
 
+/// An arrangement for a phone, where all that is pressed is to be large enough for a finger. The
+/// board keeps its place, but the narrow avenues get room for letters that can be read. `strip` is
+/// the place of level and bank; `others` are those of what stands beside the board, its panel last.
+constexpr std::array<MovedPart, 17> ForFingers(Box strip, std::array<MovedPart, 7> others) {
+  const auto within = [strip](Box box) {
+    const auto x = [strip](int twips) { return twips * strip.width / 5805; };
+    const auto y = [strip](int twips) { return twips * strip.height / 990; };
+    return Box{strip.left + x(box.left), strip.top + y(box.top), x(box.width), y(box.height)};
+  };
+  return {{
+      {{50, 30, 5805, 4080}, {50, 30, 5805, 4080}},              // down to 4th Avenue
+      {{50, 4110, 5805, 120}, {50, 4110, 5805, 160}},            // 4th Avenue
+      {{50, 4230, 5805, 960}, {50, 4270, 5805, 960}},            // down to 5th Avenue
+      {{50, 5190, 5805, 120}, {50, 5230, 5805, 160}},            // 5th Avenue
+      {{50, 5310, 5805, 480}, {50, 5390, 5805, 480}},            // the last row
+      {{50, 30, 5805, 5800}, {50, 30, 5805, 5880}},              // panel, and what goes across
+      {{130, 5920, 4360, 370}, within({80, 60, 4360, 450})},     // level and bank
+      {{130, 6300, 4360, 340}, within({80, 520, 4360, 430})},    // what stands below them
+      {{4550, 5930, 1240, 710}, within({4500, 60, 1240, 880})},  // setup and exit
+      {{50, 5850, 5805, 876}, strip},                            // their panel
+      others[0],
+      others[1],
+      others[2],
+      others[3],
+      others[4],
+      others[5],
+      others[6],
+  }};
+}
+
 /// The board at the full width; below it, side by side, what stands above one another on a wide
 /// screen.
-TallDesign TallBoard() {
-  return {.width = 5905,
-          .height = 10456,
-          .parts = {
-              {{50, 30, 5805, 5800}, {50, 30, 5805, 5800}},          // board
-              {{5970, 110, 3414, 2185}, {110, 5960, 2810, 1800}},    // ledgers
-              {{5970, 2350, 3414, 1820}, {2985, 5960, 2810, 1800}},  // news
-              {{5970, 4230, 3414, 960}, {110, 7940, 2810, 790}},     // buildings
-              {{5970, 5240, 3414, 850}, {2985, 7840, 2810, 1000}},   // actions
-              {{6240, 6140, 2880, 530}, {110, 8900, 5685, 560}},     // end of turn
-              {{5880, 30, 3594, 6696}, {50, 5860, 5805, 3670}},      // their panel
-              {{50, 5850, 5805, 876}, {50, 9550, 5805, 876}},        // level and bank
-          }};
-}
+constexpr auto tallBoard = ForFingers(
+    {50, 9520, 5805, 990}, {{
+                               {{5970, 110, 3414, 2185}, {110, 6020, 2810, 1780}},    // ledgers
+                               {{5970, 2350, 3414, 1820}, {2985, 6020, 2810, 1780}},  // news
+                               {{6800, 4755, 2320, 400}, {660, 8375, 2260, 440}},     // "Go ahead"
+                               {{6240, 4230, 2880, 960}, {110, 7885, 2810, 930}},     // buildings
+                               {{5970, 5240, 3414, 850}, {2985, 7860, 2810, 980}},    // actions
+                               {{6240, 6140, 2880, 530}, {110, 8900, 5685, 540}},     // end of turn
+                               {{5880, 30, 3594, 6696}, {50, 5930, 5805, 3570}},      // their panel
+                           }});
+
+/// The board at the full height, and beside it two columns.
+constexpr auto lowBoard =
+    ForFingers({5890, 4780, 6660, 1130},
+               {{
+                   {{5970, 110, 3414, 2185}, {5970, 120, 3260, 2260}},    // ledgers
+                   {{5970, 2350, 3414, 1820}, {5970, 2450, 3260, 2220}},  // news
+                   {{6800, 4755, 2320, 400}, {9960, 675, 2520, 480}},     // "Go ahead"
+                   {{6240, 4230, 2880, 960}, {9340, 120, 3140, 1040}},    // buildings
+                   {{5970, 5240, 3414, 850}, {9310, 1400, 3200, 1700}},   // actions
+                   {{6240, 6140, 2880, 530}, {9340, 3550, 3140, 1050}},   // end of turn
+                   {{5880, 30, 3594, 6696}, {5890, 30, 6660, 4720}},      // their panel
+               }});
 
 constexpr int boardLevel = -2;
 constexpr int afterBoard = -1;
@@ -81,7 +120,8 @@ GFMWindow::GFMWindow(Surface& surface)
                        .height = 6756,
                        .titleBar = TitleBar::Sizable,
                        .label = "Game board",
-                       .tall = TallBoard(),
+                       .tall = {5905, 10540, tallBoard},
+                       .low = {12600, 5940, lowBoard},
                        .isMain = true}) {
   PlaceBoard();
   PlaceLedgers();

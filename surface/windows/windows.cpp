@@ -16,26 +16,21 @@ constexpr Group cardGroup = {"Chance cards", true};
 
 constexpr int afterOptions = 1;
 
-TallDesign TallStart() {
-  return {.width = 6400,
-          .height = 6300,
-          .parts = {
-              {{546, 480, 8412, 3000}, {250, 250, 5900, 2104}},     // picture
-              {{546, 3610, 8412, 940}, {250, 2650, 5900, 900}},     // texts
-              {{1752, 4740, 6000, 1400}, {250, 4200, 5900, 1800}},  // buttons
-              {{200, 180, 9104, 6396}, {100, 100, 6200, 6100}},     // their panel
-          }};
-}
+constexpr MovedPart tallStart[] = {
+    {{546, 480, 8412, 3000}, {250, 250, 5900, 2104}},     // picture
+    {{546, 3610, 8412, 940}, {250, 2650, 5900, 900}},     // texts
+    {{1752, 4740, 6000, 1400}, {250, 4200, 5900, 1800}},  // buttons
+    {{200, 180, 9104, 6396}, {100, 100, 6200, 6100}},     // their panel
+};
+
+/// Levels and boxes to tick are as high as a finger wants them.
+constexpr MovedPart lowSetup[] = {{{4884, 310, 2150, 2110}, {4884, 310, 2150, 2480}}};
 
 /// The legend above the options.
-TallDesign TallSetup() {
-  return {.width = 4774,
-          .height = 6520,
-          .parts = {
-              {{200, 200, 4374, 2960}, {200, 200, 4374, 2960}},
-              {{4774, 200, 4374, 2960}, {200, 3360, 4374, 2960}},
-          }};
-}
+constexpr MovedPart tallSetup[] = {
+    {{200, 200, 4374, 2960}, {200, 200, 4374, 2960}},
+    {{4774, 200, 4374, 2960}, {200, 3360, 4374, 3100}},
+};
 
 }  // namespace
 
@@ -46,7 +41,7 @@ GSTWindow::GSTWindow(Surface& surface)
                        .height = 6756,
                        .titleBar = TitleBar::Sizable,
                        .ground = night,
-                       .tall = TallStart(),
+                       .tall = {6400, 6300, tallStart},
                        .isMain = true}) {
   Place(NAMED(Panel3D1), Kind::Panel, {200, 180, 9104, 6396}, {.look = panel});
   Place(NAMED(Image2), Kind::Image, {346, 300, 8412, 3000}, {.picture = PictureId::GST_Image2},
@@ -72,7 +67,8 @@ ICFWindow::ICFWindow(Surface& surface)
                        .width = 9348,
                        .height = 3360,
                        .titleBar = TitleBar::NoBorder,
-                       .tall = TallSetup()}) {
+                       .tall = {4774, 6660, tallSetup},
+                       .low = {9348, 3360, lowSetup}}) {
   // Bare ground around the panels: over it the legend line says what to do.
   Place(NAMED(Panel3D1), Kind::Panel, {200, 200, 4374, 2960}, {.look = panel});
   Place(NAMED(Panel3D2), Kind::Panel, {4774, 200, 4374, 2960}, {.look = panel});

@@ -208,7 +208,7 @@ test('a screen reader hears what everything is', async () => {
   }
 });
 
-for (const [width, height] of [[360, 640], [360, 740], [640, 360], [844, 390], [3840, 2160]]) {
+for (const [width, height] of [[360, 640], [390, 844], [640, 360], [844, 390], [768, 1024], [3840, 2160]]) {
   test(`everything can be reached at ${width} by ${height}`, async () => {
     const page = await virtualGame('', { viewport: { width, height }, hasTouch: width < 1000 });
     const hidden = () => page.evaluate(() => [...window.zelvoTest.top().querySelectorAll('button')]
@@ -217,12 +217,12 @@ for (const [width, height] of [[360, 640], [360, 740], [640, 360], [844, 390], [
         if (wide === 0) return false;
         const met = document.elementFromPoint((left + right) / 2, (top + bottom) / 2);
         return left < -1 || top < 0 || right > innerWidth + 1 || bottom > innerHeight + 1
-          || !button.contains(met) || Math.min(wide, high) < 16;
+          || !button.contains(met) || Math.min(wide, high) < 24;
       }).map((button) => button.dataset.control ?? button.className));
     await page.evaluate(bringPlayers, 1);
     assert.deepEqual(await hidden(), []);
     for (const id of ['GST.CMDSET', 'ICF.CMDEXP', 'HH.CMDEXIT', 'ICF.cmdexit', 'GST.CMDSTART', 'GFM.Label8',
-      'BK.CMDCANCEL', 'GFM.Image1(0)', 'GFM.CMDBUILD']) {
+      'BK.CMDCANCEL', 'GFM.Image1(0)', 'GFM.CMDBUILD', 'GFM.HILTON', 'GFM.BUILDIT', 'HS.CMDAN1(0)']) {
       await page.evaluate((selector) => document.querySelector(selector).click(), at(id));
       await waiting(page);
       assert.deepEqual(await hidden(), [], `after ${id}`);

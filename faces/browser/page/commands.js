@@ -116,7 +116,8 @@ export class Commands {
   }
 
   #warn(sentence) {
-    const notice = makeBox('notice', 'warns own', { title: 'Zelvo', text: sentence, answers: ['OK'] });
+    const notice = makeBox('notice', '!', { title: 'Zelvo', text: sentence, answers: ['OK'] });
+    notice.classList.add('own');
     notice.querySelector('.answer').addEventListener('click', () => notice.close());
     this.#open(notice);
   }

@@ -45,9 +45,9 @@ export class Controls {
     }
   }
 
-  place(control, isTall) {
+  place(control, arrangement) {
     const { design, element } = control;
-    control.place = isTall ? design.tall : design.box;
+    control.place = design[arrangement];
     ['--left', '--top', '--wide', '--high']
       .forEach((name, i) => element.style.setProperty(name, control.place[i]));
   }

@@ -11,9 +11,11 @@ export function holdOpen(dialog, isOpen) {
   });
 }
 
-/// A dialog with a text, what kind of one it is (`asks`, `warns` or `tells`), and a button for each
-/// answer.
-export function makeBox(name, kind, { title, text, answers }) {
+/// By the styles of the game's message boxes; those of the others have none.
+const icons = { 36: '?', 48: '!' };
+
+/// A dialog with a text, an icon if it is to have one, and a button for each answer.
+export function makeBox(name, icon, { title, text, answers }) {
   const sentence = make('p', 'text', screenText(text));
   sentence.id = name.replace(' ', '-');
   const buttons = answers.map((answer) => {
@@ -21,8 +23,13 @@ export function makeBox(name, kind, { title, text, answers }) {
     button.dataset.answer = answer.toLowerCase();
     return button;
   });
-  const box = make('dialog', `window message ${kind}`, make('header', 'bar', make('span', 'title', title)),
-    sentence, make('div', 'answers', ...buttons));
+  const box = make('dialog', 'window message', make('header', 'bar', make('span', 'title', title)),
+    make('div', 'told', sentence), make('div', 'answers', ...buttons));
+  if (icon) {
+    const sign = make('span', 'icon', icon);
+    sign.setAttribute('aria-hidden', true);
+    sentence.before(sign);
+  }
   box.dataset.window = name;
   box.setAttribute('aria-label', title);
   box.setAttribute('aria-describedby', sentence.id);
@@ -37,9 +44,9 @@ export class MessageBox {
     this.element?.remove();
     this.element = null;
     if (message === null) return;
-    const { title, text, asks, warns } = message;
-    const answers = asks ? ['Yes', 'No'] : ['OK'];
-    const box = makeBox('message box', asks ? 'asks' : warns ? 'warns' : 'tells', { title, text, answers });
+    const { title, text, style } = message;
+    const answers = icons[style] === '?' ? ['Yes', 'No'] : ['OK'];
+    const box = makeBox('message box', icons[style], { title, text, answers });
     holdOpen(box, () => this.element === box);
     document.body.append(box);
     this.element = box;

@@ -128,9 +128,8 @@ export class Keyboard {
 
   /// To the next one that way, as from lot to lot; an option is selected by that.
   #walk(from, key) {
-    const { isTall } = from.stop.window;
-    const nextOf = ({ design }) =>
-      this.#controls.at(((isTall && design.tallSteps) || design.steps)[key]);
+    const { arrangement } = from.stop.window;
+    const nextOf = ({ design }) => this.#controls.at(design.steps[arrangement][key]);
     let next = nextOf(from);
     while (next && !takesFocus(next)) next = nextOf(next);
     if (!next) return;

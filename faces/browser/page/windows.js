@@ -3,6 +3,7 @@
 
 import { holdOpen } from './dialogs.js';
 import { make } from './element.js';
+import { Screen } from './screen.js';
 
 export class Windows {
   #all = [];  // each its design, element, client area, title, controls and stops of the keyboard
@@ -10,6 +11,7 @@ export class Windows {
   #clearance = 0;
   #controls;
   #keyboard;
+  #screen = new Screen();
 
   constructor(controls, keyboard) {
     this.#controls = controls;
@@ -19,6 +21,7 @@ export class Windows {
   /// A dialog stands `clearance` twips away from what is to be seen.
   build(designs, clearance) {
     this.#clearance = clearance;
+    this.#screen.measure();
     this.#all = designs.map((design) => this.#make(design));
     for (const window of this.#all) this.#putControls(window);
   }
@@ -32,7 +35,10 @@ export class Windows {
   }
 
   title(told) {
-    for (const { at, title } of told) this.#all[at].title.textContent = title;
+    for (const { at, title, name } of told) {
+      this.#all[at].title.textContent = title;
+      this.#all[at].element.setAttribute('aria-label', name);
+    }
   }
 
   /// Closes what is gone and gives what is to come up.
@@ -71,6 +77,7 @@ export class Windows {
 
   /// The screen has another size.
   arrange() {
+    this.#screen.measure();
     for (const window of this.#stack) {
       this.#arrange(window);
       this.#controls.refit(window.controls);
@@ -90,9 +97,8 @@ export class Windows {
   #make(design) {
     const client = make('div', 'client');
     client.style.backgroundColor = design.ground;
-    const element = make(design.dialog ? 'dialog' : 'section', 'window', client);
+    const element = make(design.dialog ? 'dialog' : 'main', 'window', client);
     element.dataset.window = design.id;
-    element.setAttribute('aria-label', design.name);
     const title = make('span', 'title');
     if (design.titled) element.append(this.#makeTitleBar(design, title));
     const controls = design.order.map((at) => this.#controls.at(at));
@@ -171,20 +177,20 @@ export class Windows {
     }
   }
 
-  /// Takes the arrangement of the window's parts in which it is larger on this screen.
+  /// Takes the arrangement of the window's parts for this shape of a screen, unless the window gets
+  /// smaller by it.
   #arrange(window) {
     const { design, element } = window;
-    const room = (width, height) => Math.min(innerWidth / width, innerHeight / height);
-    window.isTall = design.tall !== null && innerHeight > innerWidth
-      && room(design.tall[0], design.tall[1]) > room(design.width, design.height);
-    const [width, height] = window.isTall ? design.tall : [design.width, design.height];
+    const other = innerHeight > innerWidth ? 'tall' : 'low';
+    const isOther = design[other] !== null
+      && this.#screen.room(design[other]) >= this.#screen.room(design.box);
+    window.arrangement = isOther ? other : 'box';
+    const size = design[window.arrangement];
+    const [width, height] = size;
     element.style.setProperty('--width', width);
     element.style.setProperty('--height', height);
-    if (!design.dialog) {
-      document.documentElement.style.setProperty('--page-width', width);
-      document.documentElement.style.setProperty('--page-height', height);
-    }
-    for (const control of window.controls) this.#controls.place(control, window.isTall);
+    if (!design.dialog) this.#screen.show(size);
+    for (const control of window.controls) this.#controls.place(control, window.arrangement);
   }
 }
 

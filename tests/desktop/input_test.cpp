@@ -163,13 +163,13 @@ TEST_F(Input, MessageBoxesAnswer) {
         Case{MessageStyle::OkExclamation, QMessageBox::NoButton, Answer::Ok}}) {
     const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
     Once([box] { return box() != nullptr; },
-         [this, box, pressed = button, style = style] {
+         [this, box, pressed = button, wanted = style] {
            EXPECT_EQ(box()->windowTitle() + ": " + box()->text(), "Zelvo: One\nTwo");
-           const bool question = style == MessageStyle::YesNoQuestion;
+           const bool question = wanted == MessageStyle::YesNoQuestion;
            EXPECT_EQ(box()->buttons().size(), question ? 2 : 1);
-           EXPECT_EQ(box()->icon(), question                    ? QMessageBox::Question
-                                    : style == MessageStyle::Ok ? QMessageBox::NoIcon
-                                                                : QMessageBox::Warning);
+           EXPECT_EQ(box()->icon(), question                     ? QMessageBox::Question
+                                    : wanted == MessageStyle::Ok ? QMessageBox::NoIcon
+                                                                 : QMessageBox::Warning);
            EXPECT_EQ(box()->parentWidget(), &View(game.GST));
            EXPECT_EQ(box()->font().pixelSize(), static_cast<int>(13 * View(game.GST).Scale()));
            QAbstractButton* at = box()->button(pressed);

@@ -26,10 +26,10 @@ async function painted(query) {
 async function weigh(form) {
   const page = await painted(`?virtual${form}`);
   const files = await page.evaluate(() => {
-    const painted = performance.getEntriesByName('first-contentful-paint')[0].startTime;
+    const shown = performance.getEntriesByName('first-contentful-paint')[0].startTime;
     return [...performance.getEntriesByType('navigation'), ...performance.getEntriesByType('resource')]
       .filter(({ name }) => !/sounds|worker|icon|webmanifest/.test(name))
-      .map((entry) => [entry.encodedBodySize, entry.decodedBodySize, entry.responseEnd <= painted]);
+      .map((entry) => [entry.encodedBodySize, entry.decodedBodySize, entry.responseEnd <= shown]);
   });
   const sum = (list, i) => list.reduce((total, entry) => total + entry[i], 0);
   const early = files.filter((file) => file[2]);

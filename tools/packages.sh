@@ -1,4 +1,5 @@
 # The Debian packages that Zelvo needs, for the scripts at the top of the tree.
+# shellcheck shell=bash disable=SC2034 # each script takes what it needs
 play_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libpulse-dev libxcb1-dev
   fonts-dejavu-core)
 check_packages=("${play_packages[@]}" git clang clang-tidy libgtest-dev nlohmann-json3-dev libgl-dev
@@ -13,9 +14,9 @@ machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio
 page_packages=(clang cmake ninja-build lld binaryen wasi-libc python3 brotli librsvg2-bin esbuild
   'libc++-dev-wasm32|libc++-14-dev-wasm32' 'libclang-rt-dev-wasm32|libclang-rt-14-dev-wasm32')
 # For the tests of the page. Where npm is, from the archive or not, there is no need of another.
-browser_packages=("${page_packages[@]}" chromium)
-command -v npm >/dev/null || browser_packages+=(nodejs npm)
-# For what is said of files that nothing compiles.
-format_packages=(git clang-format)
+npm_packages=()
+command -v npm >/dev/null || npm_packages+=(nodejs npm)
+browser_packages=("${page_packages[@]}" "${npm_packages[@]}" chromium)
+format_packages=(git clang-format shellcheck pyflakes3 "${npm_packages[@]}")
 all_packages=("${check_packages[@]}" "${tidy_packages[@]}" "${machine_packages[@]}"
   "${browser_packages[@]}" "${format_packages[@]}")

@@ -158,8 +158,8 @@ test('a file of another face goes on, deeds are taken back in a message box, and
   assert.deepEqual(await now(page), belowTitle(stateIn(kept)));
   await page.keyboard.press('Control+z');
   await waiting(page, 'GFM');
-  const before = await now(page);
-  assert.equal(before.controls['GFM.CMDBUY'].Visible, -1);
+  const unasked = await now(page);
+  assert.equal(unasked.controls['GFM.CMDBUY'].Visible, -1);
   await page.keyboard.press('Control+Shift+z');
   await waiting(page, 'message box');
   assert.deepEqual(await now(page), belowTitle(stateIn(kept)));
@@ -168,7 +168,7 @@ test('a file of another face goes on, deeds are taken back in a message box, and
   await keep(page, () => byMenu(page, at('BK.CMDOK')));
   for (const _ of 'aa') await page.keyboard.press('Control+z');
   await waiting(page, 'GFM');
-  assert.deepEqual(await now(page), before);
+  assert.deepEqual(await now(page), unasked);
 
   for (const [bad, why] of [
     ['', 'it is cut off in its first line'],

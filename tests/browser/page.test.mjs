@@ -228,9 +228,9 @@ for (const [width, height] of [[360, 640], [390, 844], [640, 360], [844, 390], [
       assert.deepEqual(await hidden(), [], `after ${id}`);
     }
     if (width > 1000) return;
-    const before = (await deeds(page)).length;
+    const done = (await deeds(page)).length;
     await page.tap(at('GFM.Image1(55)'));
-    assert.deepEqual((await deeds(page)).slice(before), ['hover GFM.Image1(55)', 'click GFM.Image1(55)']);
+    assert.deepEqual((await deeds(page)).slice(done), ['hover GFM.Image1(55)', 'click GFM.Image1(55)']);
   });
 }
 
@@ -300,10 +300,10 @@ test('no sound before the first gesture, and then the cues of the game', async (
   const page = await site.page('', {
     prepare: (it) => it.addInitScript(() => {
       window.sounded = 0;
-      const { start } = AudioBufferSourceNode.prototype;
+      const begun = AudioBufferSourceNode.prototype.start;
       AudioBufferSourceNode.prototype.start = function begin() {
         ++window.sounded;
-        start.call(this);
+        begun.call(this);
       };
     }),
   });

@@ -16,7 +16,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   text.append(reinterpret_cast<const char*>(data), size);
   zelvo::KeptGame kept = zelvo::ReadKeptGame(text);
   if (!kept.error.empty()) {
-    if (kept.error.find("its line ") != 0) std::abort();
+    if (!kept.error.starts_with("its line ")) std::abort();
     return 0;
   }
   std::istringstream commands("hover GFM\nclick GFM.CMDGO\nanswer no\nanswer ok\n");

@@ -19,6 +19,10 @@ Outcome Shell(const std::string& line) {
   std::FILE* pipe =
       popen(("export p=" ZELVO_PROGRAMS "; exec timeout 60 bash -c '" + line + "'").c_str(), "r");
   Outcome outcome{};
+  if (pipe == nullptr) {
+    ADD_FAILURE() << "no shell: " << std::strerror(errno);
+    return outcome;
+  }
   std::array<char, 4096> piece{};
   while (const std::size_t read = std::fread(piece.data(), 1, piece.size(), pipe)) {
     outcome.printed.append(piece.data(), read);

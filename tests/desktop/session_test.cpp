@@ -145,7 +145,7 @@ TEST_F(KeptOnDesktop, AGameIsInItsFileAndTheScriptedProgramPlaysTheSame) {
   Steps steps;
   for (const auto& step : Turn()) {
     steps.push_back(step);
-    steps.push_back([this] {
+    steps.emplace_back([this] {
       EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
       EXPECT_EQ(StateInScriptedProgram(), State());
     });
@@ -161,7 +161,7 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
   std::vector<QJsonObject> states;
   Steps steps;
   for (const auto& step : Turn()) {
-    steps.push_back([this, &states, step] {
+    steps.emplace_back([this, &states, step] {
       states.push_back(BelowTitle(State()));
       step();
     });
@@ -175,7 +175,7 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
   std::vector<QJsonObject> seen;
   Steps back;
   for (int i = 0; i < 30; ++i) {
-    back.push_back([this, &seen] {
+    back.emplace_back([this, &seen] {
       seen.push_back(BelowTitle(State()));
       if (History::CanTakeBack(session.journal())) Keys(Qt::Key_Z)();
     });

@@ -48,12 +48,12 @@ class Exhibition {
     for (ControlWidget* widget : view.widgets()) {
       if (!TextFits(*widget)) std::cout << ' ' << widget->control().FullName();
     }
-    std::cout << std::endl;
+    std::cout << '\n' << std::flush;
   }
 
   void ShowMessage() { desktop_.game.MessageBox(message_, MessageStyle::OkExclamation); }
 
-  static void TellOfBox() { std::cout << QApplication::activeModalWidget()->winId() << std::endl; }
+  static void TellOfBox() { std::cout << QApplication::activeModalWidget()->winId() << '\n' << std::flush; }
 
   std::string message_;
   QTimer open_;  // opens the message box, in whose loop the next line is read

@@ -2,7 +2,9 @@
 #include <sys/wait.h>
 
 #include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <string>
 
 namespace zelvo::test {

@@ -53,7 +53,9 @@ class Exhibition {
 
   void ShowMessage() { desktop_.game.MessageBox(message_, MessageStyle::OkExclamation); }
 
-  static void TellOfBox() { std::cout << QApplication::activeModalWidget()->winId() << '\n' << std::flush; }
+  static void TellOfBox() {
+    std::cout << QApplication::activeModalWidget()->winId() << '\n' << std::flush;
+  }
 
   std::string message_;
   QTimer open_;  // opens the message box, in whose loop the next line is read

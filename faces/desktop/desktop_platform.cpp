@@ -77,6 +77,7 @@ void DesktopPlatform::Sync() {
     syncAgain_ = true;
     return;
   }
+  if (!std::exchange(extentsTold_, true)) TellExtents();
   syncing_ = true;
   do {
     syncAgain_ = false;

@@ -44,7 +44,10 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   ~DesktopPlatform() override;
 
   /// Ties the platform to the game that runs on it, ahead of the game's start.
-  void Attach(Surface& surface) { surface_ = &surface; }
+  void Attach(Surface& surface) {
+    surface_ = &surface;
+    extentsTold_ = false;
+  }
   /// Makes ready for another game in the place of one that was let go: the windows stay on the
   /// screen until the new game has shown which it has.
   void Detach();
@@ -60,9 +63,6 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   /// Makes the waits so many times as fast.
   void SetPace(int pace);
   int pace() const { return pace_; }
-  /// Tells the game of windows whose size on the screen is not what its data says, as after a list
-  /// was played. A window that was minimised comes up at its normal size.
-  void TellExtents();
   /// The window's picture on the screen; null while it has never been shown.
   WindowView* ViewOf(const Window& window) const;
   /// Opens and closes windows and shows in them what the game's data holds.
@@ -97,6 +97,9 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   struct ReleasedEvent;
 
   bool HasEnded() const { return surface_ == nullptr || surface_->HasEnded(); }
+  /// Tells the game of windows whose size on the screen is not what its data says, as after a list
+  /// was played. A window that was minimised comes up at its normal size.
+  void TellExtents();
   void OpenAndCloseWindows();
   void LoseWindow(WId id);
   void Tick(Control& timer);
@@ -120,6 +123,7 @@ class DesktopPlatform final : public QObject, public Platform, public Desk {
   int pace_ = 1;
   bool paused_ = false;
   bool waitsForSound_ = false;
+  bool extentsTold_ = false;
   bool syncing_ = false;
   bool syncAgain_ = false;
   LostWindowWatch lostWindows_{[this](WId id) {

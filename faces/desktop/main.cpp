@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "faces/desktop/session.h"
+#include "faces/desktop/desktop_session.h"
 #include "faces/standard_streams.h"
 
 namespace {
@@ -156,7 +156,7 @@ int main(int argc, char** argv) {
   QPixmapCache::setCacheLimit(32 * 1024);
 
   zelvo::DesktopPlatform platform(zelvo::ThisMachine(DataFolder()));
-  zelvo::Session session(platform);
+  zelvo::DesktopSession session(platform);
   QTimer::singleShot(0, &platform, [&session, &call] { session.Start(call.file); });
   // The first window does not wait for it.
   QTimer::singleShot(0, &platform, [&platform] {

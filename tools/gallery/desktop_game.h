@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "faces/desktop/session.h"
+#include "faces/desktop/desktop_session.h"
 
 namespace zelvo {
 
@@ -52,7 +52,7 @@ class DesktopGame {
   std::vector<std::string> spoken;
   std::vector<std::pair<QObject*, QAccessible::Event>> helpersHeard;
   DesktopPlatform platform;
-  Session session{platform};
+  DesktopSession session{platform};
   Game& game = session.game();
 
  private:

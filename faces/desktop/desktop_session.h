@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QObject>
+#include <string>
+
+#include "faces/desktop/desktop_platform.h"
+#include "faces/game_file.h"
+#include "faces/session.h"
+
+class QMenu;
+
+namespace zelvo {
+
+/// The session on the desktop: the file that the game is kept in, the menu, the keys and the
+/// dialogs.
+class DesktopSession final : public QObject, public Session {
+ public:
+  explicit DesktopSession(DesktopPlatform& platform);
+  ~DesktopSession() override;
+
+  /// Starts the program, with a kept game if a file is named.
+  void Start(const std::string& file = "");
+
+  // The errors of these are sentences for the player; empty if all is well.
+
+  /// Puts the game into a file, in which it is kept up to date from then on.
+  std::string Keep(const std::string& path);
+  /// Goes on with a kept game, which is kept up to date in its file from then on.
+  std::string GoOn(const std::string& path);
+
+  /// What the menu and the keys do.
+  void Do(const CommandDesign& design);
+  /// The menu of all this, at a place on the screen.
+  QMenu* OpenMenu(QPoint place);
+  /// Tells the player something; the game stands still until he has read it.
+  void Say(const std::string& text);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void Write(const std::string& lines, bool anew, bool lasting) override;
+  void GameLetGo() override;
+
+  void Begin();
+  void ChooseFile(Command command);
+  WindowView* Front() const { return platform_.Front(); }
+  template <class Dialog, class Signal>
+  void PauseUntil(Dialog* dialog, Signal closed);
+
+  DesktopPlatform& platform_;
+  KeptFile file_;
+};
+
+}  // namespace zelvo

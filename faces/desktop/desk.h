@@ -1,11 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <utility>
 
+#include "faces/desktop/gate.h"
 #include "faces/desktop/pictures.h"
 #include "faces/desktop/voice.h"
-#include "surface/surface.h"
 
 namespace zelvo {
 
@@ -15,24 +14,19 @@ class WindowView;
 /// game.
 class Desk {
  public:
-  Desk(const QString& pictureFolder, Voice::Speaker speaker, Helpers helpers)
-      : pictures(pictureFolder), voice(std::move(speaker)), tellHelpers(std::move(helpers)) {}
+  Desk(Gate& theGate, const QString& pictureFolder, Voice::Speaker speaker, Helpers helpers)
+      : gate(theGate),
+        pictures(pictureFolder),
+        voice(std::move(speaker)),
+        tellHelpers(std::move(helpers)) {}
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
   virtual ~Desk() = default;
 
-  /// Hands an event to the game and carries what it changed over to the windows. While the game is
-  /// at work and does not yield, the event is held until it does; of those with the same `subject`
-  /// only the latest.
-  virtual void Deliver(const std::function<void(Surface&)>& event,
-                       const void* subject = nullptr) = 0;
-
-  /// False while the game is at work and does not yield.
-  virtual bool Listens() const = 0;
-
   /// The window in front, as the game put them; null while none is shown.
   virtual WindowView* Front() const = 0;
 
+  Gate& gate;
   Pictures pictures;
   Voice voice;
   Helpers tellHelpers;

@@ -3,10 +3,8 @@
 #include <QAbstractEventDispatcher>
 #include <QAccessible>
 #include <QApplication>
-#include <QEvent>
 #include <QLabel>
 #include <QMessageBox>
-#include <QScopedValueRollback>
 #include <QScreen>
 #include <QThread>
 #include <QTime>
@@ -52,218 +50,55 @@ Machine ThisMachine(const QString& dataFolder) {
 }
 
 DesktopPlatform::DesktopPlatform(Machine machine)
-    : Desk(machine.dataFolder + "/pictures", machine.speaker, machine.helpers),
+    : gate(machine.tickLength),
+      screen(gate, machine.dataFolder + "/pictures", machine.speaker, machine.helpers),
       machine_(std::move(machine)) {
   // The game's windows have one design and their texts one language, whatever the system's is.
   QGuiApplication::setLayoutDirection(Qt::LeftToRight);
   DescribeControlsToHelpers();
-  qApp->installEventFilter(this);
-  qApp->installNativeEventFilter(&lostWindows_);
+  gate.whenDelivered = [this] { screen.Sync(); };
 }
 
 DesktopPlatform::~DesktopPlatform() = default;
 
-WindowView* DesktopPlatform::ViewOf(const Window& window) const {
-  const auto found = views_.find(&window);
-  return found == views_.end() ? nullptr : found->second.get();
-}
-
-// Between the game's data and the screen.
-
-void DesktopPlatform::Sync() {
-  if (HasEnded()) return;
-  // Showing a window can raise an event that changes data again.
-  if (syncing_) {
-    syncAgain_ = true;
-    return;
-  }
-  if (!std::exchange(extentsTold_, true)) TellExtents();
-  syncing_ = true;
-  do {
-    syncAgain_ = false;
-    OpenAndCloseWindows();
-    for (WindowView* view : std::vector<WindowView*>(open_)) view->Sync();
-    const bool newFront = followed_ != surface_->broughtToFront();
-    followed_ = surface_->broughtToFront();
-    if (newFront && Front() != nullptr) Front()->BringToFront();
-  } while (syncAgain_ && !HasEnded());
-  syncing_ = false;
-  if (whenSynced && !HasEnded()) whenSynced();
-}
-
-void DesktopPlatform::OpenAndCloseWindows() {
-  const auto gone = std::stable_partition(
-      open_.begin(), open_.end(), [](WindowView* view) { return view->window().IsShown(); });
-  const std::vector<WindowView*> closing(gone, open_.end());
-  open_.erase(gone, open_.end());
-  for (WindowView* view : closing) view->hide();
-  for (Window* window : std::vector<Window*>(surface_->Stack())) {
-    auto& view = views_[window];
-    if (!view) view = std::make_unique<WindowView>(*window, *this);
-    if (std::find(open_.begin(), open_.end(), view.get()) != open_.end()) continue;
-    view->Open(window->opener() == nullptr ? nullptr : ViewOf(*window->opener()));
-    open_.push_back(view.get());
-  }
-}
-
-WindowView* DesktopPlatform::Front() const {
-  return HasEnded() || surface_->Stack().empty() ? nullptr : ViewOf(*surface_->Stack().back());
-}
-
-/// Brings what was held to the event loop.
-struct DesktopPlatform::ReleasedEvent : QEvent {
-  explicit ReleasedEvent(Held what) : QEvent(QEvent::User), held(std::move(what)) {}
-  Held held;
-};
-
-bool DesktopPlatform::Listens() const {
-  return !HasEnded() && !waitsForSound_ && !syncing_ && !paused_ && surface_->IsOpen();
-}
-
-void DesktopPlatform::Deliver(const std::function<void(Surface&)>& event, const void* subject) {
-  if (HasEnded()) return;
-  if (!Listens()) {
-    if (subject != nullptr) std::erase_if(held_, [&](Held& h) { return h.subject == subject; });
-    held_.push_back({subject, event});
-    return;
-  }
-  {
-    const QScopedValueRollback deeper(depth_, depth_ + 1);
-    event(*surface_);
-    Sync();
-  }
-  ReleaseHeld();
-  if (depth_ == 0 && idle_) WhenIdle(std::exchange(idle_, {}));
-}
-
-// A game in the place of another.
-
-void DesktopPlatform::WhenIdle(std::function<void()> what) {
-  idle_ = std::move(what);
-  if (depth_ == 0) {
-    QMetaObject::invokeMethod(this, &DesktopPlatform::RunIdle, Qt::QueuedConnection);
-  }
-}
-
-void DesktopPlatform::RunIdle() {
-  if (depth_ == 0 && idle_) std::exchange(idle_, {})();
-}
-
-void DesktopPlatform::Detach() {
-  surface_ = nullptr;
-  held_.clear();
-  heldTicks_.clear();
-  QCoreApplication::removePostedEvents(this, QEvent::User);
-  for (const auto& [control, timer] : timers_) timer->stop();
-  followed_ = -1;
+void DesktopPlatform::Attach(Surface* surface) {
+  gate.Attach(surface);
+  screen.FollowAnew();
 }
 
 void DesktopPlatform::CloseMessageBoxes() {
   for (QMessageBox* box : boxes_) box->reject();
 }
 
-void DesktopPlatform::Pause(bool paused) {
-  paused_ = paused;
-  if (!HasEnded()) ReleaseHeld();
+// Waits.
+
+void DesktopPlatform::Wait(QEventLoop::ProcessEventsFlags flags) {
+  screen.Sync();
+  gate.RunEvents(flags);
 }
 
-void DesktopPlatform::SetPace(int pace) {
-  pace_ = pace;
-  for (const auto& [control, timer] : timers_) {
-    if (timer->isActive()) timer->start(TickLength(*control));
-  }
-}
+void DesktopPlatform::Yield() { Wait(QEventLoop::AllEvents); }
 
-void DesktopPlatform::TellExtents() {
-  for (Window* window : std::vector<Window*>(surface_->Stack())) {
-    WindowView* view = ViewOf(*window);
-    const bool open = std::find(open_.begin(), open_.end(), view) != open_.end();
-    Extent extent = window->extent == Extent::Minimised ? Extent::Normal : window->extent;
-    if (open) extent = view->extent();
-    if (extent == window->extent) continue;
-    window->extent = extent;
-    Deliver([window, extent](Surface& surface) { surface.Resize(*window, extent); }, view);
-  }
-}
-
-/// Puts what was held ahead of all that comes next. Each is an event of its own: the game may yield
-/// in the middle of one.
-void DesktopPlatform::ReleaseHeld() {
-  if (!Listens()) return;
-  for (const Held& held : std::exchange(held_, {})) {
-    QCoreApplication::postEvent(this, new ReleasedEvent(held));
-  }
-  for (const Control* control : std::exchange(heldTicks_, {})) timers_.at(control)->start(0);
-}
-
-void DesktopPlatform::customEvent(QEvent* event) {
-  const Held& held = static_cast<ReleasedEvent*>(event)->held;
-  Deliver(held.event, held.subject);
-}
-
-void DesktopPlatform::ProcessEvents(QEventLoop::ProcessEventsFlags flags) {
-  ReleaseHeld();
-  QCoreApplication::processEvents(flags);
-}
-
-bool DesktopPlatform::eventFilter(QObject* /*object*/, QEvent* event) {
-  const bool key = event->type() == QEvent::KeyPress;
-  const bool mouse = event->type() == QEvent::MouseButtonPress;
-  if ((key || mouse) && usesKeys != key) {
-    usesKeys = key;
-    for (WindowView* view : open_) view->ShowFocus();
-  }
-  return false;
-}
-
-/// A window was destroyed by somebody else. The game counts on it as long as it shows it, so it
-/// comes anew; but who destroys the only one wants the program to end.
-void DesktopPlatform::LoseWindow(WId id) {
-  if (HasEnded()) return;
-  const auto isLost = [id](const QWidget* widget) { return widget->internalWinId() == id; };
-  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (box != nullptr && isLost(box)) return box->reject();
-  const auto lost = std::find_if(open_.begin(), open_.end(), isLost);
-  if (lost == open_.end()) return;
-  if (open_.size() == 1) {
-    surface_->End();
-  } else {
-    (*lost)->ComeAnew();
-  }
-}
-
-// Events.
-
-void DesktopPlatform::Yield() {
-  Sync();
-  ProcessEvents(QEventLoop::AllEvents);
-}
-
-void DesktopPlatform::YieldUntilEvent() {
-  Sync();
-  ProcessEvents(QEventLoop::WaitForMoreEvents);
-}
+void DesktopPlatform::YieldUntilEvent() { Wait(QEventLoop::WaitForMoreEvents); }
 
 void DesktopPlatform::RunModal(Window& window) {
-  while (window.IsShown() && !HasEnded()) {
-    Sync();
-    ProcessEvents(QEventLoop::WaitForMoreEvents);
-  }
+  while (window.IsShown() && gate.Running() != nullptr) Wait(QEventLoop::WaitForMoreEvents);
 }
 
 Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
                                    const std::string& title) {
-  Sync();
+  screen.Sync();
   const bool question = style == MessageStyle::YesNoQuestion;
-  const Window* asking = surface_->AtWork();
-  WindowView* parent = asking != nullptr && asking->IsShown() ? ViewOf(*asking) : Front();
+  const Window* asking = gate.Running()->AtWork();
+  WindowView* parent =
+      asking != nullptr && asking->IsShown() ? screen.ViewOf(*asking) : screen.Front();
   QMessageBox box(parent);
   box.setWindowTitle(QString::fromStdString(title));
   box.setTextFormat(Qt::PlainText);
   if (parent != nullptr)
     box.setFont(ScreenFont(static_cast<int>(messageLetters * parent->Scale()), false));
-  const QSize screen = box.screen()->availableSize();
-  const double width = std::min(shareOfScreen * screen.width(), widestText);
+  const int room = box.screen()->availableSize().width();
+  const double width = std::min(shareOfScreen * room, widestText);
   box.setText(InEvenLines(ScreenText(text), box.font(), width));
   if (question) box.setIcon(QMessageBox::Question);
   if (style == MessageStyle::OkExclamation) box.setIcon(QMessageBox::Warning);
@@ -273,10 +108,11 @@ Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
   for (QLabel* label : box.findChildren<QLabel*>()) {
     if (label->text() == box.text()) label->setMinimumWidth(label->sizeHint().width());
   }
-  ReleaseHeld();
+  gate.Release();
   boxes_.push_back(&box);
   const int button = box.exec();
   boxes_.pop_back();
+  gate.StandStill();
   if (!question) return Answer::Ok;
   return button == QMessageBox::Yes ? Answer::Yes : Answer::No;
 }
@@ -289,59 +125,31 @@ void DesktopPlatform::SetPointer(MousePointer pointer) {
 }
 
 void DesktopPlatform::SetFocus(Control& control) {
-  Sync();
-  if (WindowView* view = ViewOf(control.window())) view->FocusOn(control);
+  screen.Sync();
+  if (WindowView* view = screen.ViewOf(control.window())) view->FocusOn(control);
 }
 
 void DesktopPlatform::Refresh(Window& window) {
-  Sync();
-  if (WindowView* view = ViewOf(window)) view->repaint();
+  screen.Sync();
+  if (WindowView* view = screen.ViewOf(window)) view->repaint();
 }
 
 void DesktopPlatform::End() {
-  for (WindowView* view : std::exchange(open_, {})) view->hide();
-  for (const auto& [control, timer] : timers_) timer->stop();
+  screen.CloseAll();
+  gate.StopTicks();
   QGuiApplication::restoreOverrideCursor();
   machine_.leave();
 }
 
-// Timers.
-
-void DesktopPlatform::TimerChanged(Control& control) {
-  heldTicks_.erase(&control);
-  auto& timer = timers_[&control];
-  if (!timer) {
-    timer = std::make_unique<QTimer>();
-    timer->setTimerType(Qt::PreciseTimer);
-    connect(timer.get(), &QTimer::timeout, this, [this, &control] { Tick(control); });
-  }
-  if (control.Ticks()) {
-    timer->start(TickLength(control));
-  } else {
-    timer->stop();
-  }
-}
-
-int DesktopPlatform::TickLength(const Control& timer) const {
-  return machine_.tickLength(timer.Interval()) / pace_;
-}
-
-void DesktopPlatform::Tick(Control& control) {
-  if (HasEnded()) return;
-  if (!Listens()) {
-    heldTicks_.insert(&control);
-    return;
-  }
-  QTimer& timer = *timers_.at(&control);
-  const int length = TickLength(control);
-  if (timer.interval() != length) timer.setInterval(length);  // after a held tick
-  Deliver([&control](Surface& surface) { surface.Tick(control); });
-}
+void DesktopPlatform::TimerChanged(Control& timer) { gate.TimerChanged(timer); }
 
 /// A draw can read the clock for most of a second, until a second comes that suits it. The windows
 /// are painted meanwhile; what else comes is held.
 TimeOfDay DesktopPlatform::WallClock() {
-  QCoreApplication::processEvents();
+  {
+    const Gate::Hold draw(gate);
+    gate.RunEvents(QEventLoop::AllEvents);
+  }
   return machine_.clock();
 }
 
@@ -365,14 +173,14 @@ bool DesktopPlatform::PlaySound(const std::string& path, bool waits) {
 /// The game stands still until the sound is over, but its windows are painted. A sound that never
 /// says that it has ended is waited for no longer than its file is long.
 void DesktopPlatform::WaitForSound(std::chrono::milliseconds longest) {
-  Sync();
-  const QScopedValueRollback waits(waitsForSound_, true);
+  screen.Sync();
+  const Gate::Hold cue(gate);
   QTimer end;
   end.setSingleShot(true);
   end.setTimerType(Qt::PreciseTimer);
-  end.start(longest / pace_);
-  while (end.isActive() && machine_.sound->IsPlaying() && !HasEnded()) {
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  end.start(longest / gate.pace());
+  while (end.isActive() && machine_.sound->IsPlaying() && gate.Running() != nullptr) {
+    gate.RunEvents(QEventLoop::WaitForMoreEvents);
   }
 }
 

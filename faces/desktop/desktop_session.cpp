@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <algorithm>
 #include <cerrno>
+#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -32,14 +33,14 @@ std::string CannotBe(const std::string& path, const std::string& done, const std
 
 DesktopSession::DesktopSession(DesktopPlatform& platform)
     : Session(static_cast<Platform&>(platform)), platform_(platform) {
-  platform_.Attach(game());
-  platform_.whenSynced = [this] { Follow(); };
+  platform_.Attach(&game());
+  platform_.screen.whenSynced = [this] { Follow(); };
   qApp->installEventFilter(this);
 }
 
 DesktopSession::~DesktopSession() {
-  platform_.whenSynced = nullptr;
-  platform_.Detach();
+  platform_.screen.whenSynced = nullptr;
+  platform_.Attach(nullptr);
 }
 
 // --- The game
@@ -51,16 +52,15 @@ void DesktopSession::Start(const std::string& file) {
 }
 
 void DesktopSession::Begin() {
-  platform_.Deliver([this](Surface& /*surface*/) { Session::Start(); });
+  platform_.gate.Deliver([this](Surface& /*surface*/) { Session::Start(); });
 }
 
 /// The windows stay as they are until the other game has shown which it has.
 void DesktopSession::GameLetGo() {
   platform_.CloseMessageBoxes();
-  platform_.WhenIdle([this] {
-    platform_.Detach();
+  platform_.gate.WhenIdle([this] {
     MakeNext();
-    platform_.Attach(game());
+    platform_.Attach(&game());
     Begin();
   });
 }
@@ -103,26 +103,28 @@ std::string DesktopSession::GoOn(const std::string& path) {
 // --- The player
 
 void DesktopSession::Do(const CommandDesign& design) {
-  if (platform_.IsPaused() || !CanDo(design.command)) return;
+  if (platform_.gate.IsPaused() || !CanDo(design.command)) return;
   switch (design.command) {
     case Command::TakeBack:
       return TakeBack();
     case Command::DoAgain:
       return DoAgain();
     case Command::SetPace:
-      return platform_.SetPace(design.pace);
+      return platform_.gate.SetPace(design.pace);
     case Command::Keep:
     case Command::GoOn:
       return ChooseFile(design.command);
   }
 }
 
-/// The game stands still until a dialog or menu of the program's own has closed.
+/// The game stands still until a dialog or menu of the program's own has closed, or longer, for
+/// somebody who shares the reason.
 template <class Dialog, class Signal>
-void DesktopSession::PauseUntil(Dialog* dialog, Signal closed) {
+std::weak_ptr<Gate::Pause> DesktopSession::PauseUntil(Dialog* dialog, Signal closed) {
   dialog->setAttribute(Qt::WA_DeleteOnClose);
-  platform_.Pause(true);
-  connect(dialog, closed, this, [this] { platform_.Pause(false); });
+  auto pause = std::make_shared<Gate::Pause>(platform_.gate);
+  connect(dialog, closed, this, [pause]() mutable { pause.reset(); });
+  return pause;
 }
 
 void DesktopSession::ChooseFile(Command command) {
@@ -133,13 +135,14 @@ void DesktopSession::ChooseFile(Command command) {
   dialog->setFileMode(keep ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog->setDefaultSuffix(suffix);
   dialog->setNameFilters({"Kept games (*." + suffix + ")", "All files (*)"});
-  PauseUntil(dialog, &QDialog::finished);
-  connect(dialog, &QFileDialog::fileSelected, this, [this, keep](const QString& chosen) {
+  const auto pause = PauseUntil(dialog, &QDialog::finished);
+  connect(dialog, &QFileDialog::fileSelected, this, [this, keep, pause](const QString& chosen) {
     const std::string path = QFile::encodeName(chosen).toStdString();
     // What goes wrong is said when the dialog has gone.
+    const auto stillPaused = pause.lock();
     QMetaObject::invokeMethod(
         this,
-        [this, keep, path] {
+        [this, keep, path, stillPaused] {
           const std::string error = keep ? Keep(path) : GoOn(path);
           if (!error.empty()) Say(error);
         },
@@ -157,11 +160,9 @@ QMenu* DesktopSession::OpenMenu(QPoint place) {
     action->setEnabled(CanDo(design.command));
     if (design.pace != 0) {
       paces->addAction(action)->setCheckable(true);
-      action->setChecked(design.pace == platform_.pace());
+      action->setChecked(design.pace == platform_.gate.pace());
     }
-    // After the menu has gone, and with it the pause.
-    connect(
-        action, &QAction::triggered, this, [this, &design] { Do(design); }, Qt::QueuedConnection);
+    connect(action, &QAction::triggered, this, [this, &design] { Do(design); });
   }
   PauseUntil(menu, &QMenu::aboutToHide);
   menu->popup(place);
@@ -180,7 +181,7 @@ void DesktopSession::Say(const std::string& text) {
 
 bool DesktopSession::eventFilter(QObject* object, QEvent* event) {
   auto* widget = qobject_cast<QWidget*>(object);
-  if (widget == nullptr || platform_.IsPaused()) return false;
+  if (widget == nullptr || platform_.gate.IsPaused()) return false;
   if (event->type() == QEvent::ContextMenu) {
     if (dynamic_cast<WindowView*>(widget->window()) == nullptr) return false;
     OpenMenu(static_cast<QContextMenuEvent*>(event)->globalPos());

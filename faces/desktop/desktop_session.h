@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <memory>
 #include <string>
 
 #include "faces/desktop/desktop_platform.h"
@@ -44,9 +45,9 @@ class DesktopSession final : public QObject, public Session {
 
   void Begin();
   void ChooseFile(Command command);
-  WindowView* Front() const { return platform_.Front(); }
+  WindowView* Front() const { return platform_.screen.Front(); }
   template <class Dialog, class Signal>
-  void PauseUntil(Dialog* dialog, Signal closed);
+  std::weak_ptr<Gate::Pause> PauseUntil(Dialog* dialog, Signal closed);
 
   DesktopPlatform& platform_;
   KeptFile file_;

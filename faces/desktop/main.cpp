@@ -157,10 +157,10 @@ int main(int argc, char** argv) {
 
   zelvo::DesktopPlatform platform(zelvo::ThisMachine(DataFolder()));
   zelvo::DesktopSession session(platform);
-  QTimer::singleShot(0, &platform, [&session, &call] { session.Start(call.file); });
+  QTimer::singleShot(0, &session, [&session, &call] { session.Start(call.file); });
   // The first window does not wait for it.
-  QTimer::singleShot(0, &platform, [&platform] {
-    QGuiApplication::setWindowIcon(ProgramIcon(platform.pictures));
+  QTimer::singleShot(0, &session, [&platform] {
+    QGuiApplication::setWindowIcon(ProgramIcon(platform.screen.pictures));
   });
   return QCoreApplication::exec();
 }

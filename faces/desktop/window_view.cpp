@@ -249,7 +249,7 @@ void WindowView::changeEvent(QEvent* event) {
 }
 
 void WindowView::TellSize() {
-  desk_.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); }, this);
+  desk_.gate.Deliver([this](Surface& surface) { surface.Resize(window_, extent_); }, this);
 }
 
 void WindowView::ApplyExtent() {
@@ -287,7 +287,7 @@ void WindowView::paintEvent(QPaintEvent* /*event*/) {
 
 void WindowView::closeEvent(QCloseEvent* event) {
   event->ignore();  // the game decides whether the window goes
-  desk_.Deliver([this](Surface& surface) { surface.Close(window_); });
+  desk_.gate.Deliver([this](Surface& surface) { surface.Close(window_); });
 }
 
 void WindowView::keyPressEvent(QKeyEvent* event) {
@@ -307,7 +307,7 @@ bool WindowView::IsQuestion(int key) {
   if (design->question == Question::News) {
     desk_.voice.Say(QString::fromStdString(SpokenNews(window_)));
   } else {
-    desk_.Deliver([this](Surface& surface) {
+    desk_.gate.Deliver([this](Surface& surface) {
       desk_.voice.Say(QString::fromStdString(SpokenStanding(surface)));
     });
   }
@@ -323,7 +323,7 @@ void WindowView::PressByKey(Key key) {
 }
 
 void WindowView::mouseMoveEvent(QMouseEvent* /*event*/) {
-  desk_.Deliver([this](Surface& surface) { surface.Hover(window_); }, &desk_);
+  desk_.gate.Deliver([this](Surface& surface) { surface.Hover(window_); }, &desk_);
 }
 
 void WindowView::mousePressEvent(QMouseEvent* event) {
@@ -343,8 +343,8 @@ void WindowView::DeliverClick(const std::function<void(Surface&)>& click) {
   // A window takes its time to come up, and a click on the one behind it can raise that again.
   WindowView* front = desk_.Front();
   const bool isBehind = front != nullptr && front != this;
-  if (isBehind && !desk_.Listens()) return front->BringToFront();
-  desk_.Deliver([this, click, fronts = desk_.fronts](Surface& surface) {
+  if (isBehind && !desk_.gate.IsOpen()) return front->BringToFront();
+  desk_.gate.Deliver([this, click, fronts = desk_.fronts](Surface& surface) {
     if (fronts == desk_.fronts) click(surface);
   });
 }
@@ -358,7 +358,7 @@ void WindowView::Click(ControlWidget& widget, int first) {
 }
 
 void WindowView::Hover(ControlWidget& widget) {
-  desk_.Deliver([&widget](Surface& surface) { surface.Hover(widget.control()); }, &desk_);
+  desk_.gate.Deliver([&widget](Surface& surface) { surface.Hover(widget.control()); }, &desk_);
 }
 
 // The keyboard's way.

@@ -181,7 +181,7 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
     SCOPED_TRACE(control->FullName());
     ControlWidget& widget = Widget(*control);
     const auto look = [&] {
-      platform.Sync();
+      platform.screen.Sync();
       return widget.grab().toImage();
     };
     std::vector<QImage> looks;
@@ -212,9 +212,9 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
     EXPECT_EQ(look(), looks.front());
     widget.setFocus();
     EXPECT_EQ(look(), looks.front()) << "the mouse is in use";
-    platform.usesKeys = true;
+    platform.screen.usesKeys = true;
     EXPECT_EQ(isNew(), widget.hasFocus());
-    platform.usesKeys = false;
+    platform.screen.usesKeys = false;
     control->SetEnabled(false);
     EXPECT_TRUE(isNew());
     control->SetEnabled(true);
@@ -227,7 +227,7 @@ TEST_F(Looks, EveryStateOfAControlHasALookOfItsOwn) {
     control->Picture = PictureId::ICF_GOLF;
     EXPECT_EQ(isNew(), control->kind() == Kind::Image || control->kind() == Kind::Button);
     control->Visible = false;
-    platform.Sync();
+    platform.screen.Sync();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !widget.isVisible(); }));
   }
   test::ExpectAsRecorded("desktop/looks.txt", all,
@@ -274,7 +274,7 @@ TEST_F(Looks, WindowsAreLaidOutAsRecorded) {
     }
     all << '\n';
     game.Hide(*window);
-    platform.Sync();
+    platform.screen.Sync();
   }
   test::ExpectAsRecorded("desktop/windows.txt", all.str(), [](const std::string&) { return true; });
 }

@@ -121,7 +121,7 @@ TEST_F(Keyboard, EscapeIsTheWayOutWhereTheGameWantsNoAnswer) {
     game.ShowModal(*window);
   }
   EXPECT_EQ(game.CancelledBuilds, 1);
-  platform.Sync();
+  platform.screen.Sync();
   Type(Qt::Key_Escape);
   EXPECT_TRUE(game.GFM.Untouched().IsShown());
 }
@@ -150,7 +150,7 @@ TEST_F(Keyboard, AButtonThatGoesAndComesBackGetsTheKeyboardBack) {
   TabTo(go);
   const auto show = [&](bool visible) {
     go.Visible = visible;
-    platform.Sync();
+    platform.screen.Sync();
     ASSERT_TRUE(QTest::qWaitFor([&] { return Widget(go).isVisible() == visible; }));
   };
   show(false);
@@ -199,7 +199,7 @@ TEST_F(Keyboard, TheKeyboardReachesWhateverCanBeClickedAndAVoiceNamesIt) {
       EXPECT_NE(QAccessible::queryAccessibleInterface(named)->text(QAccessible::Name), "");
     }
     game.Hide(*window);
-    platform.Sync();
+    platform.screen.Sync();
   }
 }
 
@@ -232,7 +232,7 @@ TEST_F(Keyboard, WalkingStopsAtTheEdgesOfTheBoard) {
   // A lot that twitches keeps the focus.
   for (const bool visible : {false, true}) {
     game.GFM->Image1[45].Visible = visible;
-    platform.Sync();
+    platform.screen.Sync();
   }
   EXPECT_TRUE(Widget(game.GFM->Image1[45]).hasFocus());
 }

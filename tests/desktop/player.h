@@ -24,8 +24,9 @@ class Player : public DesktopGame {
   /// Does something once a condition holds, from the event loop that then runs.
   template <class Condition, class Action>
   void Once(Condition condition, Action action) {
-    auto* look = new QTimer(&platform);
-    QObject::connect(look, &QTimer::timeout, &platform, [look, condition, action] {
+    auto* look = new QTimer(&session);
+    look->setObjectName("look");
+    QObject::connect(look, &QTimer::timeout, &session, [look, condition, action] {
       if (!condition()) return;
       look->stop();
       action();
@@ -35,8 +36,9 @@ class Player : public DesktopGame {
 
   template <class Action>
   void OnceShown(Window& window, Action action) {
-    Once([this, &window] { return game.InputWindow() == &window && platform.ViewOf(window); },
-         action);
+    Once(
+        [this, &window] { return game.InputWindow() == &window && platform.screen.ViewOf(window); },
+        action);
   }
 };
 

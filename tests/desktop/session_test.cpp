@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include "faces/game_file.h"
@@ -70,7 +71,7 @@ class KeptOnDesktop : public testing::Test, public Player {
     return [this, &control] { QTest::mouseClick(&Widget(control), Qt::LeftButton); };
   }
   std::function<void()> Keys(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::ControlModifier) {
-    return [this, key, modifiers] { QTest::keyClick(platform.Front(), key, modifiers); };
+    return [this, key, modifiers] { QTest::keyClick(platform.screen.Front(), key, modifiers); };
   }
 
   // `Untouched`, or the look alone would load a window.
@@ -126,7 +127,7 @@ class KeptOnDesktop : public testing::Test, public Player {
 
  private:
   void Poll() {
-    QTimer::singleShot(0, &platform, [this] {
+    QTimer::singleShot(0, &session, [this] {
       if (session.IsReplacing() || !session.journal().IsAtRest()) return Poll();
       if (next_ > steps_.size()) return;
       const std::size_t step = next_++;
@@ -210,12 +211,12 @@ TEST_F(KeptOnDesktop, NothingOfAGameReachesTheOneThatComesInItsPlace) {
   const auto box = [] { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); };
   Once([box] { return box() != nullptr; }, [box] { box()->accept(); });
   platform.MessageBox("One", MessageStyle::Ok, "Zelvo");
-  platform.Pause(true);
+  auto pause = std::make_optional<Gate::Pause>(platform.gate);
   bool reached = false;
-  platform.Deliver([&reached](Surface&) { reached = true; });
+  platform.gate.Deliver([&reached](Surface&) { reached = true; });
   session.TakeBack();
   ASSERT_TRUE(QTest::qWaitFor([this] { return !session.IsReplacing(); }));
-  platform.Pause(false);
+  pause.reset();
   Run({[] {}});
   EXPECT_FALSE(reached);
   // An open message box goes with its game.
@@ -225,10 +226,10 @@ TEST_F(KeptOnDesktop, NothingOfAGameReachesTheOneThatComesInItsPlace) {
   // What comes in the place of the same game comes to the front as well.
   Run({Press(game.GST.Untouched().CMDSTART)});
   ASSERT_EQ(session.Keep(file.toStdString()), "");
-  const int fronts = platform.fronts;
+  const int fronts = platform.screen.fronts;
   ASSERT_EQ(session.GoOn(file.toStdString()), "");
   Run({[] {}});
-  EXPECT_GT(platform.fronts, fronts);
+  EXPECT_GT(platform.screen.fronts, fronts);
 }
 
 TEST_F(KeptOnDesktop, AFileIsGoneOnWithInTheMiddleOfABlinkAndItsTornLineIsDropped) {
@@ -317,7 +318,7 @@ TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) 
   menu->close();
   EXPECT_TRUE(QTest::qWaitFor([this] { return game.Work > 0; }));
   Run({Keys(Qt::Key_5)});
-  EXPECT_EQ(platform.pace(), 5);
+  EXPECT_EQ(platform.gate.pace(), 5);
 }
 
 TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
@@ -329,7 +330,7 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
     EXPECT_EQ(dialog->acceptMode(), mode);
     EXPECT_EQ(dialog->defaultSuffix(), "zelvo");
     EXPECT_EQ(dialog->nameFilters().first(), "Kept games (*.zelvo)");
-    EXPECT_TRUE(platform.IsPaused());
+    EXPECT_TRUE(platform.gate.IsPaused());
     Keys(Qt::Key_Z)();  // which would take back
     dialog->fileSelected(path);
     dialog->reject();
@@ -350,7 +351,7 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
   EXPECT_EQ(box->icon(), QMessageBox::Warning);
   EXPECT_EQ(box->windowTitle(), "Zelvo");
   box->accept();
-  EXPECT_FALSE(platform.IsPaused());
+  EXPECT_FALSE(platform.gate.IsPaused());
 }
 
 }  // namespace

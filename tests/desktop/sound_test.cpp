@@ -50,7 +50,7 @@ TEST_F(Sound, AMissingFileIsNoFailureButAMissingPlayerIs) {
 }
 
 TEST_F(Sound, OneThatNeverEndsIsWaitedForNoLongerThanItsFileIsLong) {
-  platform.SetPace(5);
+  platform.gate.SetPace(5);
   constexpr int always = 1'000'000'000;
   sound->looksWhilePlaying = always;
   EXPECT_TRUE(platform.PlaySound(game.AppPath + "CLICK.WAV", true));

@@ -61,7 +61,7 @@ TEST_F(Speech, WindowsAreTreesOfTheirControls) {
       EXPECT_EQ(std::ranges::count(objects, widget), 1) << widget->control().FullName();
     }
     game.Hide(*window);
-    platform.Sync();
+    platform.screen.Sync();
   }
 }
 
@@ -74,7 +74,7 @@ TEST_F(Speech, ADialogTellsItsTitleAndItsTextsInTheirOrder) {
         << texts;
     EXPECT_EQ(Heard(), Texts()) << "that was told with the dialog";
     game.ML->Label2.Caption = "What else ?";
-    platform.Sync();
+    platform.screen.Sync();
     EXPECT_EQ(Heard(), Texts({"What else ?"}));
     Type(Qt::Key_F2);
     EXPECT_EQ(Heard(), Texts({"Property zoned for a Mall. What else ?"}));
@@ -92,8 +92,8 @@ TEST_F(Speech, NewsIsSpokenOnceWhenItChangesOrComesIntoSight) {
   const auto after = [&](const char* caption, bool visible = true) {
     news.Caption = caption;
     news.Visible = visible;
-    platform.Sync();
-    platform.Sync();
+    platform.screen.Sync();
+    platform.screen.Sync();
     return Heard();
   };
   EXPECT_EQ(after("Lot #  5\n\rOpened "), Texts({"Lot # 5, Opened"}));
@@ -103,7 +103,7 @@ TEST_F(Speech, NewsIsSpokenOnceWhenItChangesOrComesIntoSight) {
   // What is no news is told to whoever asks for it.
   game.GFM->PCredit.Caption = "$5";
   game.GFM->Image1[37].Picture = PictureId::ICF_HILTON;
-  platform.Sync();
+  platform.screen.Sync();
   EXPECT_EQ(Heard(), Texts());
   EXPECT_EQ(Text(&Widget(game.GFM->Image1[37])), "Lot 37, computer's Hilton");
   Type(Qt::Key_F3);
@@ -117,7 +117,7 @@ TEST_F(Speech, HelpersHearOfANewNameAndANewTick) {
   const auto after = [this](const std::function<void()>& change) {
     helpersHeard.clear();
     change();
-    platform.Sync();
+    platform.screen.Sync();
     return helpersHeard;
   };
   Control& lot = game.GFM->Image1[37];

@@ -12,6 +12,7 @@
 #include <QWindow>
 #include <cmath>
 #include <map>
+#include <optional>
 #include <set>
 #include <tuple>
 
@@ -61,7 +62,7 @@ TEST_F(OnScreen, WindowsComeUpWhereTheyBelong) {
     const QPoint off = dialog.geometry().center() - start.geometry().center();
     EXPECT_LE(off.manhattanLength(), 2) << window->name();
     game.Hide(*window);
-    platform.Sync();
+    platform.screen.Sync();
     EXPECT_FALSE(dialog.isVisible());
   }
   View(game.GFM).move(-500, -400);
@@ -89,12 +90,13 @@ TEST_F(OnScreen, ADrawThatWaitsForTheClockKeepsTheWindowsPainted) {
   whenClockIsRead = [&] {
     View(game.GFM).update();
     QTimer::singleShot(0, [&] {
-      platform.Deliver([&](Surface& surface) { surface.Click(game.GFM->Image1[(lot + 1) % 100]); });
+      platform.gate.Deliver(
+          [&](Surface& surface) { surface.Click(game.GFM->Image1[(lot + 1) % 100]); });
     });
     if (++reads == 5) now.second = 7;
     EXPECT_EQ(game.CurLot, lot);
   };
-  platform.Deliver([this](Surface& surface) { surface.Click(game.CHN->Image1[2]); });
+  platform.gate.Deliver([this](Surface& surface) { surface.Click(game.CHN->Image1[2]); });
   EXPECT_EQ(reads, 5);
   EXPECT_GE(board.paints, 3);
 }
@@ -122,12 +124,12 @@ TEST_F(OnScreen, WhatLooksOtherwiseIsPaintedAnew) {
     QCoreApplication::processEvents();
     return paint.paints > 0;
   };
-  EXPECT_FALSE(paints([&] { platform.Sync(); }));
+  EXPECT_FALSE(paints([&] { platform.screen.Sync(); }));
   EXPECT_TRUE(paints([&] { QTest::mousePress(&widget, Qt::LeftButton); }));
   EXPECT_TRUE(paints([&] { QTest::mouseRelease(&widget, Qt::LeftButton, {}, {-5, -5}); }));
   EXPECT_TRUE(paints([&] {
     lot.Picture = PictureId::ICF_MALL;
-    platform.Sync();
+    platform.screen.Sync();
   }));
   EXPECT_TRUE(paints([&] {
     widget.setFocus();
@@ -144,12 +146,12 @@ TEST_F(OnScreen, AChangeOfPaceIsAtOnceThatOfTheTimersThatRun) {
   game.Work = 0;
   QCoreApplication::processEvents();
   EXPECT_EQ(game.Work, 0) << "an hour is not over";
-  platform.SetPace(tickLength);
+  platform.gate.SetPace(tickLength);
   EXPECT_TRUE(QTest::qWaitFor([this] { return game.Work > 0; }));
   tickLength = 0;
   timer.SetEnabled(false);
   game.Work = 0;
-  platform.SetPace(1);
+  platform.gate.SetPace(1);
   QCoreApplication::processEvents();
   EXPECT_EQ(game.Work, 0);
 }
@@ -166,14 +168,14 @@ void Destroy(WId window) {
 
 TEST_F(OnScreen, AWindowThatIsDestroyedFromOutsideComesAnewAndTheLastOneEndsTheProgram) {
   StartGame();
-  const int fronts = platform.fronts;
+  const int fronts = platform.screen.fronts;
   Destroy(View(game.GFM).winId());
   EXPECT_TRUE(View(game.GFM).windowHandle()->isVisible());
-  EXPECT_EQ(platform.fronts, fronts + 1);
+  EXPECT_EQ(platform.screen.fronts, fronts + 1);
   Destroy(0);
-  EXPECT_EQ(platform.fronts, fronts + 1) << "none of ours";
+  EXPECT_EQ(platform.screen.fronts, fronts + 1) << "none of ours";
   game.Hide(game.GFM);
-  platform.Sync();
+  platform.screen.Sync();
   Destroy(View(game.GST).winId());
   EXPECT_TRUE(game.HasEnded());
 }
@@ -191,7 +193,7 @@ TEST_F(OnScreen, WhatSpeaksOfALotStandsBesideIt) {
     EXPECT_FALSE(dialog.intersects(place)) << window->name() << ' ' << game.CurLot;
     EXPECT_TRUE(View(*window).screen()->geometry().contains(dialog));
     seen[window].insert(game.CurLot);
-    platform.Deliver([&](Surface& surface) {
+    platform.gate.Deliver([&](Surface& surface) {
       surface.Click(window == &game.SV.Untouched() ? game.SV->CMDOK : game.ML->CMD1[1]);
     });
   });
@@ -201,7 +203,7 @@ TEST_F(OnScreen, WhatSpeaksOfALotStandsBesideIt) {
       for (Control& lot : game.GFM->Image1) lot.Tag = tag;
       now.second = second;
       game.MallNext = 1;
-      platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDGO); });
+      platform.gate.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDGO); });
     }
   };
   turns("PSH", 22);  // repairs are due
@@ -266,7 +268,7 @@ TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
   EXPECT_FALSE(View(game.GFM).isMinimized());
   // It comes back once nothing is in front of it.
   EXPECT_EQ(startWindow(), Qt::WindowMinimized);
-  platform.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDEXIT); });
+  platform.gate.Deliver([this](Surface& surface) { surface.Click(game.GFM->CMDEXIT); });
   EXPECT_EQ(startWindow(), Qt::WindowNoState);
   StartGame();
   // Also when it comes while the game holds still for a sound, or after the board was closed so.
@@ -275,7 +277,7 @@ TEST_F(OnScreen, TheStartWindowFollowsTheBoard) {
     View(game.GFM).setWindowState(Qt::WindowMaximized);
   };
   platform.PlaySound(game.AppPath + "CLICK.WAV", true);
-  platform.Sync();
+  platform.screen.Sync();
   EXPECT_TRUE(View(game.GFM).isMaximized() && View(game.GST).isMaximized());
   View(game.GFM).close();
   sound->whileItPlays = nullptr;
@@ -290,16 +292,16 @@ TEST_F(OnScreen, WidgetsShowWhatTheDataHolds) {
   game.GFM->CMDBUY.Visible = true;
   game.GFM->CMDGO.SetEnabled(false);
   game.GFM->Caption = "News";
-  platform.Sync();
+  platform.screen.Sync();
   EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, "One\nTwo");
   EXPECT_TRUE(Widget(game.GFM->CMDBUY).isVisible() && !Widget(game.GFM->CMDGO).isEnabled());
   EXPECT_EQ(View(game.GFM).windowTitle(), "News");
   // What was hidden while the window was away is not there when it comes back.
   game.Hide(game.GFM);
-  platform.Sync();
+  platform.screen.Sync();
   game.GFM->CMDBUY.Visible = false;
   game.Show(game.GFM);
-  platform.Sync();
+  platform.screen.Sync();
   EXPECT_FALSE(Widget(game.GFM->CMDBUY).isVisible());
 
   Exhibit(game.HH);
@@ -315,22 +317,22 @@ TEST_F(OnScreen, WhatHappensWhileTheWindowsAreSyncedOrInAPauseComesAfterIt) {
   int delivered = 0;
   QObject::connect(&View(game.RB), &QWidget::windowTitleChanged, [&] {
     game.GFM->PSHOW.Caption = "Late news";
-    platform.Sync();
-    platform.Deliver([&](Surface&) { ++delivered; });
+    platform.screen.Sync();
+    platform.gate.Deliver([&](Surface&) { ++delivered; });
     EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, before);
     EXPECT_EQ(delivered, 0);
   });
   game.RB->Caption = "News";
-  platform.Sync();
+  platform.screen.Sync();
   EXPECT_EQ(Widget(game.GFM->PSHOW).Text().text, "Late news");
-  platform.Deliver([](Surface&) {});
+  platform.gate.Deliver([](Surface&) {});
   QCoreApplication::processEvents();
   EXPECT_EQ(delivered, 1);
   // And what happens in a pause comes after that.
-  platform.Pause(true);
-  platform.Deliver([&](Surface&) { ++delivered; });
+  auto pause = std::make_optional<Gate::Pause>(platform.gate);
+  platform.gate.Deliver([&](Surface&) { ++delivered; });
   EXPECT_EQ(delivered, 1);
-  platform.Pause(false);
+  pause.reset();
   QCoreApplication::processEvents();
   EXPECT_EQ(delivered, 2);
 }
@@ -340,15 +342,15 @@ TEST_F(OnScreen, EveryPictureIsDrawnSharp) {
   for (int id = 1; id < static_cast<int>(PictureId::Count); ++id) {
     const auto picture = static_cast<PictureId>(id);
     QImage(96, 96, QImage::Format_ARGB32_Premultiplied).fill(Qt::red);  // leaves its colour behind
-    const QPixmap pixmap = platform.pictures.Get(picture, {96, 96});
+    const QPixmap pixmap = platform.screen.pictures.Get(picture, {96, 96});
     const int corner = pixmap.toImage().pixelColor(0, 0).alpha();
     clear += corner == 0 ? 1 : 0;
     EXPECT_TRUE(corner == 0 || corner == 255) << PictureOwner(picture);
     EXPECT_EQ(pixmap.size(), QSize(96, 96)) << PictureOwner(picture);
-    EXPECT_GT(platform.pictures.Proportion(picture), 0) << PictureOwner(picture);
+    EXPECT_GT(platform.screen.pictures.Proportion(picture), 0) << PictureOwner(picture);
   }
   EXPECT_GT(clear, 10) << "pictures without a ground";
-  EXPECT_TRUE(platform.pictures.Get("no-such.svg", {96, 96}).isNull());
+  EXPECT_TRUE(platform.screen.pictures.Get("no-such.svg", {96, 96}).isNull());
 }
 
 TEST_F(OnScreen, APictureThatIsMissingOrBrokenIsToldOfOnceAndPutInWords) {

@@ -99,10 +99,10 @@ Machine DesktopGame::TestMachine() {
 }
 
 void DesktopGame::StartGame() {
-  platform.Deliver([this](Surface& surface) { surface.Click(game.GST->CMDSTART); });
+  platform.gate.Deliver([this](Surface& surface) { surface.Click(game.GST->CMDSTART); });
 }
 
-WindowView& DesktopGame::View(Window& window) { return *platform.ViewOf(window); }
+WindowView& DesktopGame::View(Window& window) { return *platform.screen.ViewOf(window); }
 
 ControlWidget& DesktopGame::Widget(Control& control) {
   return *View(control.window()).Find(control);
@@ -121,7 +121,7 @@ void DesktopGame::Exhibit(Window& window) {
     control->Caption = exhibit.caption;
     if (exhibit.picture != PictureId::None) control->Picture = exhibit.picture;
   }
-  platform.Sync();
+  platform.screen.Sync();
 }
 
 }  // namespace zelvo

@@ -41,13 +41,13 @@ class Photographer {
 
  private:
   void Click(Control& control) {
-    desktop_.platform.Deliver([&control](Surface& surface) { surface.Click(control); });
+    desktop_.platform.gate.Deliver([&control](Surface& surface) { surface.Click(control); });
   }
 
   void Save(Window& window, const char* name) {
     WindowView& view = desktop_.View(window);
     view.SetScale(scale);
-    desktop_.platform.Sync();
+    desktop_.platform.screen.Sync();
     // A control that twitched is drawn as gone for a moment yet.
     const QDeadlineTimer settled(300);
     while (!settled.hasExpired()) {
@@ -106,7 +106,7 @@ class Photographer {
       if (!window->IsShown()) return;
     }
     if (window->HasCloseBox() && window->name() == "RB") {
-      desktop_.platform.Deliver([window](Surface& surface) { surface.Close(*window); });
+      desktop_.platform.gate.Deliver([window](Surface& surface) { surface.Close(*window); });
     }
   }
 

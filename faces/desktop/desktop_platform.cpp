@@ -147,7 +147,7 @@ void DesktopPlatform::TimerChanged(Control& timer) { gate.TimerChanged(timer); }
 /// are painted meanwhile; what else comes is held.
 TimeOfDay DesktopPlatform::WallClock() {
   {
-    const Gate::Hold draw(gate);
+    const Gate::Hold draw(gate, Gate::Time::Passes);
     gate.RunEvents(QEventLoop::AllEvents);
   }
   return machine_.clock();
@@ -174,7 +174,7 @@ bool DesktopPlatform::PlaySound(const std::string& path, bool waits) {
 /// says that it has ended is waited for no longer than its file is long.
 void DesktopPlatform::WaitForSound(std::chrono::milliseconds longest) {
   screen.Sync();
-  const Gate::Hold cue(gate);
+  const Gate::Hold cue(gate, Gate::Time::StandsStill);
   QTimer end;
   end.setSingleShot(true);
   end.setTimerType(Qt::PreciseTimer);

@@ -6,13 +6,14 @@
 
 namespace zelvo {
 
-Gate::Hold::Hold(Gate& gate) : gate_(gate) {
-  if (gate_.holds_++ == 0) gate_.ticker_.Stop();
+Gate::Hold::Hold(Gate& gate, Time time) : gate_(gate), time_(time) {
+  ++gate_.holds_;
+  if (time_ == Time::StandsStill && gate_.standstills_++ == 0) gate_.ticker_.Stop();
 }
 
 Gate::Hold::~Hold() {
-  if (--gate_.holds_ > 0) return;
-  gate_.ticker_.GoOn();
+  --gate_.holds_;
+  if (time_ == Time::StandsStill && --gate_.standstills_ == 0) gate_.ticker_.GoOn();
   gate_.Release();
 }
 
@@ -58,7 +59,7 @@ void Gate::Tick() {
 /// Each of what was held is an event of its own: the game may yield in the middle of one.
 void Gate::Release() {
   if (!IsOpen()) return;
-  ticker_.GoOn();
+  ticker_.TellWhatIsDue();
   if (!held_.empty()) QMetaObject::invokeMethod(this, &Gate::LetIn, Qt::QueuedConnection);
 }
 

@@ -16,23 +16,27 @@ class Gate final : public QObject {
  public:
   using Event = std::function<void(Surface&)>;
 
+  /// The game's time while something is held.
+  enum class Time : unsigned char { Passes, StandsStill };
+
   /// A reason to hold, for as long as it lives: the windows are just being drawn, or the game waits
-  /// for something that is not to be disturbed. The game's time stands still meanwhile.
+  /// for something that is not to be disturbed.
   class Hold {
    public:
-    explicit Hold(Gate& gate);
+    Hold(Gate& gate, Time time);
     Hold(const Hold&) = delete;
     Hold& operator=(const Hold&) = delete;
     ~Hold();
 
    private:
     Gate& gate_;
+    Time time_;
   };
   /// A reason for the game itself to stand still wherever it waits: a dialog or menu of the
   /// program's own.
   class Pause {
    public:
-    explicit Pause(Gate& gate) : gate_(gate), hold_(gate) { ++gate_.pauses_; }
+    explicit Pause(Gate& gate) : gate_(gate), hold_(gate, Time::StandsStill) { ++gate_.pauses_; }
     Pause(const Pause&) = delete;
     Pause& operator=(const Pause&) = delete;
     ~Pause() { --gate_.pauses_; }
@@ -90,6 +94,7 @@ class Gate final : public QObject {
   std::function<void()> idle_;  // to be called when no handler is on the stack
   int depth_ = 0;               // events that the game is taking
   int holds_ = 0;
+  int standstills_ = 0;  // those of them that let time stand still
   int pauses_ = 0;
   Ticker ticker_;
 };

@@ -46,7 +46,7 @@ void Screen::Sync() {
   }
   if (!std::exchange(extentsTold_, true)) TellExtents(*surface);
   {
-    const Gate::Hold drawing(gate);
+    const Gate::Hold drawing(gate, Gate::Time::Passes);
     syncing_ = true;
     do {
       syncAgain_ = false;

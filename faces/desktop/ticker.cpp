@@ -29,7 +29,7 @@ void Ticker::Stop() {
 
 void Ticker::GoOn() {
   stands_ = false;
-  if (!wait_.isActive()) WaitForTick();
+  TellWhatIsDue();
 }
 
 Control* Ticker::Take() {
@@ -67,7 +67,7 @@ void Ticker::WaitForTick() {
   const auto until = timers_.UntilNextTick();
   if (stands_ || !until) return;
   until_ = *until;
-  wait_.start(length_(static_cast<int>(until_)) / pace_);
+  wait_.start(until_ == 0 ? 0 : length_(static_cast<int>(until_)) / pace_);
   since_.start();
 }
 

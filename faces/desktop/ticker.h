@@ -20,8 +20,12 @@ class Ticker {
   void TimerChanged(Control& timer);
   /// Lets time stand still.
   void Stop();
-  /// Lets it pass from now on, and has a tick that was due and not taken come again.
+  /// Lets it pass from now on.
   void GoOn();
+  /// Has a tick that was due and not taken come again.
+  void TellWhatIsDue() {
+    if (!wait_.isActive()) WaitForTick();
+  }
   /// The timer whose tick is due, which is taken thereby.
   Control* Take();
   void SetPace(int pace);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "surface/control.h"
+#include "surface/member.h"
 #include "surface/platform.h"
 
 namespace zelvo {
@@ -119,10 +120,6 @@ class Window {
   Window* opener_ = nullptr;
   std::vector<Control*> controls_;
 };
-
-/// Which member of a structure, as a table names a control: `Member<Control, BKWindow>`.
-template <class T, class W>
-using Member = T W::*;
 
 /// A window under the name that the rules use. Touching it through `->` or `->*` loads it if it is
 /// not loaded.

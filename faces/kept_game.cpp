@@ -6,20 +6,9 @@
 #include "journal/journal.h"
 
 namespace zelvo {
+namespace {
 
-KeptGame ReadKeptGame(std::string_view text) {
-  Journal trial;
-  Game game(trial);
-  trial.Attach(game);
-  ReadList read = ReadGameList(game, text);
-  KeptGame kept{std::move(read.list), std::move(read.error), read.wholeBytes, true};
-  if (!kept.error.empty()) return kept;
-  trial.whenPlayed = [&kept] { kept.ends = false; };
-  trial.Start(kept.list);
-  kept.error = trial.misfit();
-  return kept;
-}
-
+/// A list that ends the program, up to the deed that does.
 GameList WithoutTheEnd(GameList list) {
   while (!list.empty()) {
     const Entry::Kind last = list.back().kind;
@@ -27,6 +16,29 @@ GameList WithoutTheEnd(GameList list) {
     if (last == Entry::Kind::Click || last == Entry::Kind::Close) break;
   }
   return list;
+}
+
+}  // namespace
+
+KeptGame ReadKeptGame(std::string_view text) {
+  Journal trial;
+  Game game(trial);
+  trial.Attach(game);
+  ReadList read = ReadGameList(game, text);
+  KeptGame kept{std::move(read.list), std::move(read.error), read.wholeBytes, true, {}};
+  if (!kept.error.empty()) return kept;
+  bool hadBoard = false;
+  trial.whenWaiting = [&] {
+    if (!game.GFM.Untouched().IsShown()) return;
+    hadBoard = true;
+    kept.standing = trial.Played();
+  };
+  trial.whenPlayed = [&kept] { kept.ends = false; };
+  trial.Start(kept.list);
+  kept.error = trial.misfit();
+  if (hadBoard) return kept;
+  kept.standing = Written::AllOf(kept.ends ? WithoutTheEnd(kept.list) : kept.list);
+  return kept;
 }
 
 std::string TextOf(Surface& surface, const GameList& list) {

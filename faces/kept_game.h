@@ -13,13 +13,16 @@ struct KeptGame {
   GameList list;
   std::string error;           ///< why it cannot be gone on with, in plain words, or empty
   std::size_t wholeBytes = 0;  ///< length of its text without a last line that is torn off
-  bool ends = false;           ///< the list ends the program itself
+  bool ends = false;           ///< it leads to the end of the program with no further wait
+  /// How much of the list leads to the last moment at which its board was on the screen. Without a
+  /// board it is all of it, but for a deed that ends the program.
+  Written standing;
+
+  /// True if nothing comes after that moment.
+  bool IsWhole() const { return standing == Written::AllOf(list); }
 };
 
 KeptGame ReadKeptGame(std::string_view text);
-
-/// A list that ends the program, up to the deed that does.
-GameList WithoutTheEnd(GameList list);
 
 /// The whole text of a kept game.
 std::string TextOf(Surface& surface, const GameList& list);

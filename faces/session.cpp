@@ -74,8 +74,8 @@ KeptGame Session::Read(std::string_view name, std::string_view text) {
 
 void Session::GoOn(KeptGame kept, bool isWritten) {
   history_.Forget();
-  if (kept.ends) return Replace(WithoutTheEnd(std::move(kept.list)), false);
-  Replace(std::move(kept.list), isWritten);
+  const bool isWhole = kept.IsWhole();
+  Replace(Beginning(std::move(kept.list), kept.standing), isWritten && isWhole);
 }
 
 // --- The list

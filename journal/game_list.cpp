@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view formatName = "zelvo-game ";
 constexpr std::string_view header = "zelvo-game 1\n";
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 struct Verb {
   Entry::Kind kind;
@@ -159,6 +160,19 @@ class Reader {
   std::unordered_map<std::string, Target> targets_;
 };
 
+/// So many readings, returns and deeds are played in two seconds, and in five on a slow page;
+/// nobody waits longer for a game.
+constexpr std::uint64_t mostPlayed = 30'000'000;
+
+/// Cuts the first line off a text.
+std::string_view TakeLine(std::string_view& text) {
+  const auto end = text.find('\n');
+  std::string_view line = text.substr(0, end);
+  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
+  if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
+  return line;
+}
+
 /// Why a text does not begin as a list does.
 std::string WhyNoList(std::string_view text) {
   if (header.substr(0, text.size()) == text) return "it is cut off in its first line";
@@ -225,6 +239,12 @@ Written Written::AllOf(const GameList& list) {
   return {list.size(), list.empty() ? 0 : list.back().count};
 }
 
+GameList Beginning(GameList list, Written length) {
+  list.resize(length.entries);
+  if (!list.empty()) list.back().count = length.count;
+  return list;
+}
+
 std::string LinesSince(Surface& surface, const GameList& list, Written written) {
   std::string lines;
   if (written.entries > 0 && list[written.entries - 1].count > written.count) {
@@ -238,23 +258,29 @@ std::string LinesSince(Surface& surface, const GameList& list, Written written) 
 
 ReadList ReadGameList(Surface& surface, std::string_view text) {
   ReadList read;
-  if (text.substr(0, header.size()) != header) {
+  read.wholeBytes = text.rfind('\n') + 1;
+  std::string_view lines = text.substr(0, read.wholeBytes);
+  // Some editors begin a text with a mark that says it is UTF-8, and end lines in their own way.
+  for (std::string_view* part : {&lines, &text}) {
+    if (part->starts_with(byteOrderMark)) part->remove_prefix(byteOrderMark.size());
+  }
+  if (TakeLine(lines) != header.substr(0, header.size() - 1)) {
     read.error = WhyNoList(text);
     return read;
   }
   const Reader reader(surface);
-  read.wholeBytes = text.rfind('\n') + 1;
-  std::string_view lines = text.substr(0, read.wholeBytes);
-  lines.remove_prefix(header.size());
+  std::uint64_t played = 0;
   for (std::uint32_t number = 2; !lines.empty(); ++number) {
-    const auto end = lines.find('\n');
-    const std::string_view line = lines.substr(0, end);
-    lines.remove_prefix(end + 1);
+    const std::string_view line = TakeLine(lines);
     if (!line.empty() && line.front() == '#') continue;
     Entry entry;
     entry.line = number;
     if (!reader.Read(line, entry)) {
       read.error = "its line " + std::to_string(number) + " cannot be read";
+    } else if ((played += entry.count) > mostPlayed || text.size() > longestText) {
+      read.error = "it is too long to be played";
+    }
+    if (!read.error.empty()) {
       read.list.clear();
       return read;
     }

@@ -33,6 +33,8 @@ using GameList = std::vector<Entry>;
 
 /// So many readings or returns at most stand in one entry.
 constexpr std::uint32_t longestRun = 1'000'000;
+/// A text of more bytes is not read.
+constexpr std::size_t longestText = 16 * 1024 * 1024;
 
 Entry EntryOf(Surface& surface, const Deed& deed);
 Deed DeedOf(Surface& surface, const Entry& entry);
@@ -49,7 +51,10 @@ struct Written {
   std::uint32_t count = 0;  ///< of the last of them
 
   static Written AllOf(const GameList& list);
+  bool operator==(const Written&) const = default;
 };
+/// The first so much of a list.
+GameList Beginning(GameList list, Written length);
 /// The lines of what came since, without the header.
 std::string LinesSince(Surface& surface, const GameList& list, Written written);
 

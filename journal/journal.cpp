@@ -52,7 +52,7 @@ void Journal::Start(GameList list) {
   list_ = std::move(list);
   playing_ = true;
   surface_->Start();
-  while (Next() != nullptr) PlayDeed();
+  while (NextInWait() != nullptr) PlayDeed();
   const bool over = surface_->HasEnded() && playing_;
   if (over && misfit_.empty() && next_ < list_.size()) Misfit(list_[next_]);
 }
@@ -64,7 +64,14 @@ const Entry* Journal::Next() {
   return nullptr;
 }
 
-const Entry* Journal::Next(Entry::Kind kind) {
+const Entry* Journal::NextInWait() {
+  if (playing_ && whenWaiting && !surface_->HasEnded()) whenWaiting();
+  return Next();
+}
+
+const Entry* Journal::NextAnswer(Entry::Kind kind) {
+  // A trial finds out where the game comes to wait next.
+  if (machine_ == nullptr && next_ == list_.size()) return nullptr;
   const Entry* entry = Next();
   if (entry == nullptr) return nullptr;
   if (entry->kind != kind) {
@@ -73,6 +80,11 @@ const Entry* Journal::Next(Entry::Kind kind) {
   }
   UseUp();
   return entry;
+}
+
+Written Journal::Played() const {
+  if (used_ > 0) return {next_ + 1, used_};
+  return {next_, next_ > 0 ? list_[next_ - 1].count : 0};
 }
 
 void Journal::UseUp() {
@@ -91,7 +103,7 @@ void Journal::PlayDeed() {
 }
 
 bool Journal::PlayUpTo(Entry::Kind end) {
-  while (const Entry* entry = Next()) {
+  while (const Entry* entry = NextInWait()) {
     if (entry->kind == end) return true;
     PlayDeed();
   }
@@ -165,7 +177,7 @@ void Journal::YieldUntilEvent() {
 
 void Journal::RunModal(Window& window) {
   const Wait wait(*this, WaitKind::ForPlayer);
-  while (window.IsShown() && Next() != nullptr) PlayDeed();
+  while (window.IsShown() && NextInWait() != nullptr) PlayDeed();
   const bool goesOn = window.IsShown() && !surface_->HasEnded();
   if (HasMachine() && goesOn) machine_->RunModal(window);
 }
@@ -189,7 +201,7 @@ Answer Journal::MessageBox(const std::string& text, MessageStyle style, const st
 }
 
 bool Journal::PlaySound(const std::string& path, bool waits) {
-  if (const Entry* entry = Next(Entry::Kind::Sound)) return entry->hasSound;
+  if (const Entry* entry = NextAnswer(Entry::Kind::Sound)) return entry->hasSound;
   if (!HasMachine() || surface_->HasEnded()) return false;
   Entry entry = Of(Entry::Kind::Sound);
   entry.hasSound = machine_->PlaySound(path, waits);
@@ -198,7 +210,7 @@ bool Journal::PlaySound(const std::string& path, bool waits) {
 }
 
 TimeOfDay Journal::WallClock() {
-  if (const Entry* entry = Next(Entry::Kind::Clock)) return entry->time;
+  if (const Entry* entry = NextAnswer(Entry::Kind::Clock)) return entry->time;
   // What still runs after the end may wait for the clock to turn.
   if (!HasMachine() || surface_->HasEnded()) return {0, 0, afterwards_++ % 60};
   Entry entry = Of(Entry::Kind::Clock);

@@ -29,8 +29,13 @@ class Journal final : public Platform {
   /// What did not fit, in plain words; empty if nothing. The machine knows nothing of the game
   /// then.
   const std::string& misfit() const { return misfit_; }
-  /// Called where the list is over, ahead of anything new.
+  /// Called where the list is over, ahead of anything new. A trial calls it at the next wait; it
+  /// does not if the list ends the program, or leads to its end with no further wait.
   std::function<void()> whenPlayed;
+  /// Called wherever the game waits while the list is played, ahead of what comes next.
+  std::function<void()> whenWaiting;
+  /// How much of the list has been played so far.
+  Written Played() const;
 
   /// All that has reached the game so far.
   const GameList& list() const { return list_; }
@@ -67,8 +72,11 @@ class Journal final : public Platform {
   /// The next entry to be played; null if the game has ended, or after the machine has taken over
   /// because there is none.
   const Entry* Next();
-  /// The same if it is of that kind, which is then used up; it does not fit if it is not.
-  const Entry* Next(Entry::Kind kind);
+  /// The same where the game waits.
+  const Entry* NextInWait();
+  /// The same where the game asks for an answer of that kind, which is then used up; an entry of
+  /// another kind does not fit.
+  const Entry* NextAnswer(Entry::Kind kind);
   void UseUp();
   void PlayDeed();
   /// Plays what happened inside a wait up to the entry that ends it; true if there is one.

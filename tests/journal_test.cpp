@@ -139,7 +139,7 @@ click GFM.Timer1 | close GFM.CMDGO | resize GFM | resize GFM wide | clock 24:00:
 clock 12:0:00 | clock 12:00:00 0 | back 01 | back 1000001 | sound maybe | answer)")) {
     EXPECT_EQ(why(Board(line + "\n")), "its line 16 cannot be read") << line;
   }
-  for (const std::string line : {"", "click GFM.CMDGO ", "click GFM.CMDGO\r"}) {
+  for (const std::string line : {"", "click GFM.CMDGO ", "click GFM.CMDGO\r\r"}) {
     EXPECT_EQ(why(Board(line + "\n")), "its line 16 cannot be read") << line;
   }
   EXPECT_EQ(why(Board(std::string("click\0GFM\n", 10))), "its line 16 cannot be read");
@@ -161,9 +161,8 @@ answer yes)")) {
            {"", "it is cut off in its first line"},
            {"zelvo-game 1", "it is cut off in its first line"},
            {"zelvo-game 2\nfold GFM\n", "it was kept by a later version of the game"},
-           {"zelvo-game 1\r\n", "it is no kept game"},
            {"zelvo-game one\n", "it is no kept game"},
-           {"\xEF\xBB\xBFzelvo-game 1\n", "it is no kept game"},
+           {"\xEF\xBB\xBF\xEF\xBB\xBFzelvo-game 1\n", "it is no kept game"},
            {"<html>\n", "it is no kept game"}}) {
     EXPECT_EQ(why(text), error) << text;
   }
@@ -185,19 +184,50 @@ TEST(KeptGames, HoldOneLineForTheSameReadingsAndAnAnswerThatFitsItsMessageBox) {
   }
 }
 
-TEST(KeptGames, ThatEndTheProgramCanBeGoneOnWithAheadOfTheirEnd) {
-  for (const char* end : {"close GST\n", "click GST.CMDEXIT\nsound yes\n"}) {
-    const KeptGame kept =
-        ReadKeptGame(Board(std::string("hover GFM.CMDGO\nclick GFM.CMDEXIT\n") + end));
-    EXPECT_EQ(kept.error, "");
-    EXPECT_TRUE(kept.ends);
-    Scripted ended;
-    ended.GoOn(kept.list);
-    EXPECT_EQ(ended.Lines().back()["waiting"], "ended");
-    Scripted before("get Word\n");
-    before.GoOn(WithoutTheEnd(kept.list));
-    EXPECT_EQ(before.Lines().back()["value"], "OVER");
+TEST(KeptGames, StandAtTheLastMomentAtWhichTheirBoardWasOnTheScreen) {
+  const std::string start = "zelvo-game 1\nback\nsound yes\n";
+  const struct {
+    std::string begins, rest;
+    bool ends;
+  } games[] = {
+      {Board("hover GFM.CMDGO\n"), "", false},
+      {Board("hover GFM.CMDGO\n"), "click GFM.CMDEXIT\n", false},
+      {Board("hover GFM.CMDGO\n"), "close GFM\nhover GST\n", false},
+      {Board(""), "close GST\n", true},
+      {Board(""), "click GFM.CMDEXIT\nclick GST.CMDEXIT\nsound yes\n", true},
+      {Board(""), "click GFM.CMDEXIT\nclick GST.CMDEXIT\n", true},    // the sound is torn off
+      {Board("click GFM.CMDGO\nback\nclock 12:00:00\n"), "", false},  // in the middle of a turn
+      {start, "", false},
+      {start + "hover GST\n", "close GST\n", true},
+      {start, "click GST.CMDEXIT\n", true},
+  };
+  for (const auto& [begins, rest, ends] : games) {
+    const KeptGame kept = ReadKeptGame(begins + rest);
+    ASSERT_EQ(kept.error, "") << begins << rest;
+    EXPECT_EQ(kept.ends, ends) << begins << rest;
+    EXPECT_EQ(kept.IsWhole(), rest.empty()) << begins << rest;
+    const KeptGame other = ReadKeptGame(begins);
+    Scripted game;
+    EXPECT_EQ(TextOf(game.game(), Beginning(kept.list, kept.standing)),
+              TextOf(game.game(), other.list));
   }
+}
+
+TEST(KeptGames, AreReadAsOtherProgramsWriteThemAndOnlyIfTheyCanBePlayed) {
+  const std::string text = Board("hover GFM.CMDGO\nclick GFM.Image1(0)\n");
+  std::string lines = "\xEF\xBB\xBF";
+  for (const char c : text) lines += c == '\n' ? "\r\n" : std::string(1, c);
+  const KeptGame kept = ReadKeptGame(lines);
+  EXPECT_EQ(kept.error, "");
+  EXPECT_EQ(kept.wholeBytes, lines.size());
+  EXPECT_EQ(StateAfter(kept.list), StateAfter(ReadKeptGame(text).list));
+
+  std::string endless = text;
+  for (int i = 0; i < 100; ++i) endless += "clock 12:00:00 1000000\n";
+  EXPECT_EQ(ReadKeptGame(endless).error, "it is too long to be played");
+  std::string heavy = text + "#";
+  heavy.append(longestText, '-').append("\n");
+  EXPECT_EQ(ReadKeptGame(heavy).error, "it is too long to be played");
 }
 
 /// A folder of its own that goes when the test is over.

@@ -15,6 +15,10 @@ struct CommandDesign {
   int pace = 0;  ///< of `SetPace`: so many times as fast as the game's own waits
 };
 
+/// What is said when the player has taken back or done again, as the game may look as before.
+constexpr std::string_view takenBack = "Taken back.";
+constexpr std::string_view doneAgain = "Done again.";
+
 constexpr std::array<CommandDesign, 7> commandDesigns = {{
     {Command::Keep, "Keep this game in a file...", "Ctrl+S"},
     {Command::GoOn, "Go on with a kept game...", "Ctrl+O"},

@@ -1,55 +1,81 @@
 #pragma once
 
+#include <sys/stat.h>
+#include <sys/types.h>
+
 #include <cstddef>
+#include <cstdint>
+#include <ctime>
 #include <string>
 #include <string_view>
+#include <utility>
+
+#include "faces/files.h"
 
 namespace zelvo {
 
-/// A whole file, or the system's number of the error that kept it from being read.
-struct FileText {
-  std::string text;
-  int error = 0;
-};
-FileText ReadFile(const std::string& path);
-
-/// Puts a text in the place of a file in one step: whatever happens, the file holds the old text or
-/// the new one. Returns the system's number of the error, or 0; after an error all is as it was.
-int ReplaceFile(const std::string& path, std::string_view text);
+// Errors are the system's numbers; 0 is none. EWOULDBLOCK tells that another program keeps its game
+// there, ESTALE that another program has changed the file.
 
 /// A file that a game is kept in. It only ever grows at its end, or is replaced in one step, so
-/// that at any moment it holds a game; and no two programs keep a game in one file.
+/// that at any moment it holds a game; and it belongs to one program at a time. What another
+/// program has changed all the same is left alone.
 class KeptFile {
  public:
   KeptFile() = default;
+  KeptFile(KeptFile&& other) noexcept { *this = std::move(other); }
+  KeptFile& operator=(KeptFile&& other) noexcept;
   KeptFile(const KeptFile&) = delete;
   KeptFile& operator=(const KeptFile&) = delete;
   ~KeptFile() { Close(); }
 
-  // Each returns the system's number of the error, or 0. EWOULDBLOCK tells that another program
-  // keeps its game there.
+  /// A file with a game as it was found.
+  struct Found;
+  /// Takes hold of a file and reads it, so that nobody else changes it before it is gone on with.
+  /// The file may be the one that `current` holds.
+  static Found Find(const std::string& path, const KeptFile& current);
 
-  /// Goes on with a file of which the first so many bytes count; the rest is cut off. After an
-  /// error the file that was open before, if another one, still is.
-  int Open(const std::string& path, std::size_t bytes);
+  // Each returns the error.
+
+  /// Goes on behind the first so many bytes of a file that was found; the rest is cut off.
+  int CutTo(std::size_t bytes);
   /// Starts a file, in the place of one that is there, or puts another text into this one.
   int Replace(const std::string& path, std::string_view text);
   /// Writes at the end. With `lasting` it is on the disk when this returns. After an error nothing
-  /// of it is there and the file is closed.
+  /// of it is there.
   int Append(std::string_view text, bool lasting);
   void Close();
 
   bool IsOpen() const { return file_ != -1; }
   const std::string& path() const { return path_; }
-  /// True while the path still leads to the file: nobody has moved, replaced or removed it.
-  bool IsInPlace() const;
+
+  enum class State : unsigned char {
+    AsLeft,   ///< it holds what was written here
+    Gone,     ///< nothing is in its place, and its folder is the one that it was in
+    Changed,  ///< another program has written or replaced it, or its folder is another one
+    Lost,     ///< its folder is not there
+  };
+  State Look();
 
  private:
   bool IsAt(const std::string& path) const;
+  void Hold(int file, const std::string& path, std::string_view text);
+  void NoteAsLeft();
 
   int file_ = -1;
-  std::size_t size_ = 0;
   std::string path_;
+  std::size_t size_ = 0;
+  std::uint64_t contents_ = 0;  // a hash of them
+  timespec changed_{};          // when the file last changed, as far as we know
+  dev_t folderDevice_ = 0;
+  ino_t folder_ = 0;
+};
+
+struct KeptFile::Found {
+  KeptFile file;  ///< not open if it can only be read
+  std::string text;
+  int error = 0;        ///< why it cannot be read
+  int notWritable = 0;  ///< why it can only be read
 };
 
 }  // namespace zelvo

@@ -25,18 +25,17 @@ KeptGame ReadKeptGame(std::string_view text) {
   Game game(trial);
   trial.Attach(game);
   ReadList read = ReadGameList(game, text);
-  KeptGame kept{std::move(read.list), std::move(read.error), read.wholeBytes, true, {}};
+  KeptGame kept{std::move(read.list), std::move(read.error), read.wholeBytes, true, {}, false};
   if (!kept.error.empty()) return kept;
-  bool hadBoard = false;
   trial.whenWaiting = [&] {
     if (!game.GFM.Untouched().IsShown()) return;
-    hadBoard = true;
+    kept.hasBoard = true;
     kept.standing = trial.Played();
   };
   trial.whenPlayed = [&kept] { kept.ends = false; };
   trial.Start(kept.list);
   kept.error = trial.misfit();
-  if (hadBoard) return kept;
+  if (kept.hasBoard) return kept;
   kept.standing = Written::AllOf(kept.ends ? WithoutTheEnd(kept.list) : kept.list);
   return kept;
 }

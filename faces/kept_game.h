@@ -17,6 +17,7 @@ struct KeptGame {
   /// How much of the list leads to the last moment at which its board was on the screen. Without a
   /// board it is all of it, but for a deed that ends the program.
   Written standing;
+  bool hasBoard = false;
 
   /// True if nothing comes after that moment.
   bool IsWhole() const { return standing == Written::AllOf(list); }

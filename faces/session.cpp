@@ -6,11 +6,12 @@
 namespace zelvo {
 namespace {
 
-/// True if something came that is more than moves of the mouse and the passing of time.
-bool IsWorthWaitingFor(const GameList& list, std::size_t since) {
+/// True if something came that the player did, and not the passing of time.
+bool HasDeed(const GameList& list, std::size_t since) {
   return std::any_of(list.begin() + static_cast<std::ptrdiff_t>(since), list.end(),
                      [](const Entry& entry) {
-                       return entry.kind != Entry::Kind::Hover && entry.kind != Entry::Kind::Back;
+                       return entry.kind == Entry::Kind::Click ||
+                              entry.kind == Entry::Kind::Close || entry.kind == Entry::Kind::Answer;
                      });
 }
 
@@ -26,6 +27,11 @@ void Session::Make() {
   journal_.emplace(machine_);
   game_.emplace(*journal_);
   journal_->Attach(*game_);
+  journal_->whenWaiting = [this] {
+    if (IsBoardShown()) standing_ = journal_->Played();
+  };
+  standing_.reset();
+  hasLeft_ = false;
 }
 
 void Session::Start() {
@@ -74,32 +80,45 @@ KeptGame Session::Read(std::string_view name, std::string_view text) {
 
 void Session::GoOn(KeptGame kept, bool isWritten) {
   history_.Forget();
+  wroteBoard_ = kept.hasBoard;
   const bool isWhole = kept.IsWhole();
   Replace(Beginning(std::move(kept.list), kept.standing), isWritten && isWhole);
 }
 
 // --- The list
 
+std::string Session::Text() {
+  const GameList& list = journal_->list();
+  return TextOf(*game_, standing_ ? Beginning(list, *standing_) : list);
+}
+
 void Session::GoOnWriting() {
   writes_ = true;
-  written_ = Written::AllOf(journal_->list());
+  written_ = standing_.value_or(Written::AllOf(journal_->list()));
+  wroteBoard_ = standing_.has_value();
 }
 
 void Session::EndWriting() {
   writes_ = false;
   written_.reset();
+  wroteBoard_ = false;
 }
 
 void Session::Follow() {
   if (IsReplacing() || game_->HasEnded() || !game_->IsOpen()) return;
   history_.Follow(*journal_);
-  if (!writes_) return;
+  const bool comesAnew = std::exchange(hasLeft_, !IsBoardShown()) && !hasLeft_;
+  if (comesAnew && wroteBoard_) NewGameBegins();
+  if (!hasLeft_) standing_ = Written::AllOf(journal_->list());
+  // A game that was left, or taken back to ahead of its board, stays as it is written.
+  if (!writes_ || (hasLeft_ && (standing_ || wroteBoard_))) return;
   const GameList& list = journal_->list();
   const bool anew = !written_;
   const std::string lines = anew ? Text() : LinesSince(*game_, list, *written_);
   if (lines.empty()) return;
-  const bool lasting = IsWorthWaitingFor(list, anew ? 0 : written_->entries);
+  const bool lasting = HasDeed(list, anew ? 0 : written_->entries);
   written_ = Written::AllOf(list);
+  wroteBoard_ = !hasLeft_;
   Write(lines, anew, lasting);
 }
 

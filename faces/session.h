@@ -48,29 +48,35 @@ class Session {
   /// Makes the game that was chosen in the place of the one that was let go, ready to be started.
   void MakeNext();
 
-  /// The text of a file with this game.
-  std::string Text() { return TextOf(*game_, journal_->list()); }
+  /// The text of a file with this game, up to the last moment at which its board was on the screen;
+  /// all of it if there was none.
+  std::string Text();
   /// From now on the list is written, beginning with all of it if nothing has been so far.
   void BeginWriting() { writes_ = true; }
   /// From now on what follows is written, as all there is now has been.
   void GoOnWriting();
   void EndWriting();
-  /// To be called wherever the game waits or rests: writes what has come since. So what ends the
-  /// program is not written: who comes back finds the game as it was before.
+  /// To be called wherever the game waits or rests: writes what has come since, while the board is
+  /// on the screen. So what leaves the board or ends the program is not written: who comes back
+  /// finds the game as it was before.
   void Follow();
 
   // What the face does.
 
   /// Writes lines behind those that have been written, or, with `anew`, in their place; `lasting`
-  /// if more has come than moves of the mouse and the passing of time.
+  /// if the player has done something.
   virtual void Write(const std::string& lines, bool anew, bool lasting) = 0;
   /// The game has been let go of, and all its waits return at once. When the last of its handlers
   /// has left the stack, `MakeNext` is to be called; nothing that was meant for this game is to
   /// reach the next one.
   virtual void GameLetGo() {}
+  /// The player has begun a new game after he left the one that has been written, ahead of its
+  /// first line.
+  virtual void NewGameBegins() {}
 
  private:
   void Make();
+  bool IsBoardShown() { return game_->GFM.Untouched().IsShown(); }
   void Replace(GameList list, bool isWritten);
 
   Platform& machine_;
@@ -79,8 +85,11 @@ class Session {
   History history_;
   GameList list_;  // to be played at the start of the game, or of the one that takes its place
   bool replacing_ = false;
-  bool writes_ = false;             // what follows
-  std::optional<Written> written_;  // of the list; nothing until its first line has been
+  bool writes_ = false;              // what follows
+  std::optional<Written> written_;   // of the list; nothing until its first line has been
+  bool wroteBoard_ = false;          // what has been written leads to a board
+  std::optional<Written> standing_;  // of the list, when the board was last on the screen
+  bool hasLeft_ = false;             // the board, or has not come to it yet
 };
 
 }  // namespace zelvo

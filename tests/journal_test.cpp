@@ -1,21 +1,20 @@
 #include "journal/journal.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <random>
 
-#include "faces/game_file.h"
+#include "faces/files.h"
 #include "faces/kept_game.h"
 #include "faces/scripted/state.h"
+#include "tests/folder.h"
 #include "tests/play.h"
 
 namespace zelvo::test {
@@ -230,16 +229,6 @@ TEST(KeptGames, AreReadAsOtherProgramsWriteThemAndOnlyIfTheyCanBePlayed) {
   EXPECT_EQ(ReadKeptGame(heavy).error, "it is too long to be played");
 }
 
-/// A folder of its own that goes when the test is over.
-struct Folder {
-  Folder() { EXPECT_NE(mkdtemp(path.data()), nullptr); }
-  ~Folder() { std::filesystem::remove_all(path); }
-  std::string File(const std::string& name) const { return path + "/" + name; }
-  std::string path = testing::TempDir() + "zelvo-XXXXXX";
-};
-
-void Write(const std::string& path, const std::string& text) { std::ofstream(path) << text; }
-
 TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
   const Folder folder;
   const std::string file = folder.File("a.zelvo");
@@ -269,75 +258,6 @@ TEST(KeepCommand, WritesTheListOrSaysWhyNot) {
             "clock 12:00:00\nback\nclock 12:00:00\nback\nclock 12:00:00\nback 2\nclock 12:00:00\n"
             "hover GFM\nclick GFM.CMDHELP\nclick ICF.OPT1(2)\n");
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), 2);
-}
-
-std::ptrdiff_t OpenHandles() {
-  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
-}
-
-TEST(KeptFile, GrowsAtItsEndAndBelongsToOneProgram) {
-  const Folder folder;
-  const auto handles = OpenHandles();
-  const std::string file = folder.File("a.zelvo");
-  const auto text = [&] { return ReadFile(file).text; };
-  KeptFile kept;
-  EXPECT_EQ(kept.Open(file, 0), ENOENT);
-  EXPECT_EQ(kept.Replace(file, "one\n"), 0);
-  EXPECT_EQ(kept.Append("two\n", true), 0);
-  EXPECT_EQ(text(), "one\ntwo\n");
-  KeptFile other;
-  EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK);
-  EXPECT_EQ(other.Replace(file, "other"), EWOULDBLOCK);
-  EXPECT_EQ(ReplaceFile(file, "other"), EWOULDBLOCK);
-  const std::string own = folder.File("own.zelvo");
-  EXPECT_EQ(other.Replace(own, "one\n"), 0);
-  EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK);
-  EXPECT_EQ(other.Append("two\n", false), 0) << "it still keeps its own";
-  EXPECT_EQ(other.Open(own, 4), 0);
-  EXPECT_EQ(ReadFile(own).text, "one\n");
-  EXPECT_EQ(text(), "one\ntwo\n");
-  EXPECT_EQ(kept.Replace(file, "three\nto"), 0);
-  EXPECT_EQ(other.Open(file, 0), EWOULDBLOCK) << "the new file is held like the old one";
-  kept.Close();
-  // A torn line is cut off; permissions and links stay.
-  EXPECT_EQ(chmod(file.c_str(), 0640), 0);
-  const std::string link = folder.File("link.zelvo");
-  EXPECT_EQ(symlink(file.c_str(), link.c_str()), 0);
-  EXPECT_EQ(other.Open(link, 6), 0);
-  EXPECT_EQ(other.Append("four\n", false), 0);
-  EXPECT_EQ(text(), "three\nfour\n");
-  EXPECT_EQ(other.Replace(link, "five\n"), 0);
-  EXPECT_EQ(text(), "five\n");
-  EXPECT_TRUE(std::filesystem::is_symlink(link));
-  EXPECT_EQ(static_cast<int>(std::filesystem::status(file).permissions()), 0640);
-  EXPECT_TRUE(other.IsInPlace());
-  std::filesystem::remove(file);
-  EXPECT_FALSE(other.IsInPlace());
-  // A pipe, a device or a folder is no place to keep a game.
-  const std::string pipe = folder.File("pipe");
-  EXPECT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  for (const std::string& place : {folder.path, pipe, std::string("/dev/zero")}) {
-    EXPECT_NE(kept.Replace(place, "text"), 0) << place;
-    EXPECT_NE(ReadFile(place).error, 0) << place;
-  }
-  EXPECT_EQ(ReadFile(folder.path).error, EISDIR);
-  const std::string longText(200'000, 'x');
-  EXPECT_EQ(ReplaceFile(file, longText), 0);
-  EXPECT_EQ(text(), longText);
-  // What could be written in part alone leaves nothing behind.
-  const auto files = std::distance(std::filesystem::directory_iterator(folder.path), {});
-  rlimit most{};
-  getrlimit(RLIMIT_FSIZE, &most);
-  const rlimit little{1'000, most.rlim_max};
-  const auto before = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &little);
-  EXPECT_EQ(ReplaceFile(file, "x" + longText), EFBIG);
-  setrlimit(RLIMIT_FSIZE, &most);
-  std::signal(SIGXFSZ, before);
-  EXPECT_EQ(text(), longText);
-  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path), {}), files);
-  other.Close();
-  EXPECT_EQ(OpenHandles(), handles);
 }
 
 /// A machine that hands in a click where a machine may not.

@@ -88,6 +88,7 @@ void DesktopPlatform::RunModal(Window& window) {
 Answer DesktopPlatform::MessageBox(const std::string& text, MessageStyle style,
                                    const std::string& title) {
   screen.Sync();
+  gate.StandStill();  // so that it does not cover what the player is told
   const bool question = style == MessageStyle::YesNoQuestion;
   const Window* asking = gate.Running()->AtWork();
   WindowView* parent =

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QObject>
+#include <QString>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -8,6 +10,7 @@
 #include "faces/game_file.h"
 #include "faces/session.h"
 
+class QDropEvent;
 class QMenu;
 
 namespace zelvo {
@@ -33,8 +36,9 @@ class DesktopSession final : public QObject, public Session {
   void Do(const CommandDesign& design);
   /// The menu of all this, at a place on the screen.
   QMenu* OpenMenu(QPoint place);
-  /// Tells the player something; the game stands still until he has read it.
-  void Say(const std::string& text);
+  /// Tells the player something; the game stands still until he has read it, and then something
+  /// else may come.
+  void Say(const std::string& text, const std::function<void()>& afterwards = {});
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -42,9 +46,16 @@ class DesktopSession final : public QObject, public Session {
  private:
   void Write(const std::string& lines, bool anew, bool lasting) override;
   void GameLetGo() override;
+  void NewGameBegins() override { LetFileGo(); }
 
   void Begin();
+  void LetFileGo();
   void ChooseFile(Command command);
+  void KeepAt(const QString& path);
+  void GoOnWith(const QString& path);
+  bool TakeDrop(QDropEvent& event);
+  /// Says what a command has done in a word that is seen, spoken and gone again.
+  void SayWord(const QString& text);
   WindowView* Front() const { return platform_.screen.Front(); }
   template <class Dialog, class Signal>
   std::weak_ptr<Gate::Pause> PauseUntil(Dialog* dialog, Signal closed);

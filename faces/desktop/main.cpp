@@ -21,79 +21,83 @@ using zelvo::PrintAnswer;
 
 constexpr const char* program = "zelvo";
 
-// The toolkit has options of its own and takes them out of the command line only while it opens the
-// display. To answer without one, and to name an option that nobody knows, we know their names too.
-constexpr const char* toolkitOptions[] = {"display",
-                                          "geometry",
-                                          "icon",
-                                          "platform",
-                                          "platformpluginpath",
-                                          "platformtheme",
-                                          "plugin",
-                                          "qwindowgeometry",
-                                          "qwindowicon",
-                                          "qwindowtitle",
-                                          "session",
-                                          "style",
-                                          "stylesheet",
-                                          "title"};
-
 /// What the environment or the command line says about where to draw.
-struct Call {
+struct Wish {
   std::string platform;  // as somebody asked for it; else the toolkit chooses
   bool namesDisplay = false;
-  std::string file;  // a kept game to go on with
 };
 
-/// Reads the command line. Returns an exit status if it leaves nothing to play.
-std::optional<int> ReadCall(int argc, char** argv, Call& call) {
-  QCommandLineParser parser;
-  parser.setApplicationDescription("A board game of lots and hotels for one player.");
-  parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
-  parser.addPositionalArgument("file", "A kept game to go on with.", "[file]");
-  const QCommandLineOption help({"h", "help"}, "Displays this help.");
-  parser.addOption(help);
-  const QCommandLineOption version = parser.addVersionOption();
-  const auto addHidden = [&parser](QCommandLineOption option) {
-    option.setFlags(QCommandLineOption::HiddenFromHelp);
-    parser.addOption(option);
-  };
-  for (const char* name : toolkitOptions) addHidden({name, "", name});
-  addHidden({"reverse", ""});
+/// The words of the command line that the toolkit has not taken for itself.
+class CommandLine {
+ public:
+  explicit CommandLine(const QStringList& words) {
+    parser_.setApplicationDescription("A board game of lots and hotels for one player.");
+    parser_.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);
+    parser_.addPositionalArgument("file", "A kept game to go on with.", "[file]");
+    parser_.addOption(help_);
+    parser_.addOption(version_);
+    understood_ = parser_.parse(words);
+  }
 
-  QStringList words;
-  for (char* word : std::span(argv, static_cast<std::size_t>(argc))) {
-    words += QString::fromLocal8Bit(word);
+  bool Asks() const { return understood_ && (parser_.isSet(help_) || parser_.isSet(version_)); }
+  /// Answers what is asked. Returns the exit status.
+  int Answer() const {
+    if (parser_.isSet(help_)) return PrintAnswer(program, parser_.helpText().toStdString());
+    return PrintAnswer(program, "zelvo " ZELVO_VERSION "\n");
   }
-  const bool understood = parser.parse(words);
-  if (understood && parser.isSet(help)) {
-    const QCoreApplication named(argc, argv);  // in the help
-    return PrintAnswer(program, parser.helpText().toStdString());
-  }
-  if (understood && parser.isSet(version)) return PrintAnswer(program, "zelvo " ZELVO_VERSION "\n");
-  if (!understood) return Complain(program, parser.errorText().toStdString(), zelvo::wrongCall);
-  const QStringList files = parser.positionalArguments();
-  if (files.size() > 1) {
+  /// Complains of what cannot be understood. Returns the exit status if there is such.
+  std::optional<int> Complaint() const {
+    if (!understood_) return Complain(program, parser_.errorText().toStdString(), zelvo::wrongCall);
+    const QStringList files = parser_.positionalArguments();
+    if (files.size() < 2) return std::nullopt;
     return Complain(program, "one kept game only, not also " + files[1].toStdString(),
                     zelvo::wrongCall);
   }
-  if (!files.isEmpty()) call.file = QFile::encodeName(files[0]).toStdString();
+  /// The kept game to go on with; empty for none.
+  std::string File() const {
+    const QStringList files = parser_.positionalArguments();
+    return files.isEmpty() ? "" : QFile::encodeName(files[0]).toStdString();
+  }
 
-  const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
-  call.platform = parser.isSet("platform") ? parser.value("platform").toStdString()
-                                           : qEnvironmentVariable("QT_QPA_PLATFORM").toStdString();
-  call.namesDisplay = parser.isSet("display") || isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+ private:
+  QCommandLineParser parser_;
+  QCommandLineOption help_{{"h", "help"}, "Displays this help."};
+  QCommandLineOption version_{{"v", "version"}, "Displays version information."};
+  bool understood_ = false;
+};
+
+/// Answers a question on the command line, which needs no display.
+std::optional<int> AnswerAhead(int argc, char** argv) {
+  for (const char* word : std::span(argv, static_cast<std::size_t>(argc))) {
+    const CommandLine line({program, word});
+    if (!line.Asks()) continue;
+    const QCoreApplication named(argc, argv);  // in the help
+    return line.Answer();
+  }
   return std::nullopt;
 }
 
+Wish ReadWish(int argc, char** argv) {
+  const auto isSet = [](const char* variable) { return !qEnvironmentVariableIsEmpty(variable); };
+  Wish wish;
+  wish.platform = qEnvironmentVariable("QT_QPA_PLATFORM").toStdString();
+  wish.namesDisplay = isSet("DISPLAY") || isSet("WAYLAND_DISPLAY");
+  for (int i = 1; i + 1 < argc; ++i) {
+    const std::string_view word = argv[i];
+    if (word == "-platform" || word == "--platform") wish.platform = argv[i + 1];
+    if (word == "-display" || word == "--display") wish.namesDisplay = true;
+  }
+  return wish;
+}
+
 /// Says why no window can be opened. Returns the exit status.
-int SayThatThereIsNoDisplay(const Call& call, const std::string& reason) {
+int SayThatThereIsNoDisplay(const Wish& wish, const std::string& reason) {
   const std::string why = reason.empty() ? "" : " (" + reason + ")";
   return Complain(
       program,
-      call.platform.empty()
+      wish.platform.empty()
           ? "there is no display to open a window on" + why + "; zelvo-headless plays without one"
-          : "no window can be opened on the platform \"" + call.platform +
+          : "no window can be opened on the platform \"" + wish.platform +
                 "\" that QT_QPA_PLATFORM or -platform names" + why,
       zelvo::failure);
 }
@@ -102,8 +106,8 @@ int SayThatThereIsNoDisplay(const Call& call, const std::string& reason) {
 /// What it warned of first is the reason.
 class OpeningOfDisplay {
  public:
-  explicit OpeningOfDisplay(const Call& call) : usual_(qInstallMessageHandler(Hear)) {
-    call_ = &call;
+  explicit OpeningOfDisplay(const Wish& wish) : usual_(qInstallMessageHandler(Hear)) {
+    wish_ = &wish;
     reason_.clear();
   }
   OpeningOfDisplay(const OpeningOfDisplay&) = delete;
@@ -115,11 +119,11 @@ class OpeningOfDisplay {
     const bool aboutPlatform = std::string_view(context.category).starts_with("qt.qpa");
     if (type == QtWarningMsg && aboutPlatform && reason_.empty()) reason_ = message.toStdString();
     if (type != QtFatalMsg) return;
-    std::_Exit(SayThatThereIsNoDisplay(*call_, reason_));
+    std::_Exit(SayThatThereIsNoDisplay(*wish_, reason_));
   }
 
   QtMessageHandler usual_;
-  static inline const Call* call_ = nullptr;
+  static inline const Wish* wish_ = nullptr;
   static inline std::string reason_;
 };
 
@@ -145,19 +149,21 @@ int main(int argc, char** argv) {
   zelvo::GuardStandardStreams();
   QCoreApplication::setApplicationName(program);
   QCoreApplication::setApplicationVersion(ZELVO_VERSION);
-  Call call;
-  if (const auto status = ReadCall(argc, argv, call)) return *status;
-  if (!call.namesDisplay && call.platform.empty()) return SayThatThereIsNoDisplay(call, "");
-  std::optional<OpeningOfDisplay> opening(call);
+  if (const auto status = AnswerAhead(argc, argv)) return *status;
+  const Wish wish = ReadWish(argc, argv);
+  if (!wish.namesDisplay && wish.platform.empty()) return SayThatThereIsNoDisplay(wish, "");
+  std::optional<OpeningOfDisplay> opening(wish);
   const QApplication app(argc, argv);
   opening.reset();
+  const CommandLine line(QCoreApplication::arguments());
+  if (const auto status = line.Complaint()) return *status;
   QGuiApplication::setDesktopFileName("org.zelvo.Zelvo");
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QPixmapCache::setCacheLimit(32 * 1024);
 
   zelvo::DesktopPlatform platform(zelvo::ThisMachine(DataFolder()));
   zelvo::DesktopSession session(platform);
-  QTimer::singleShot(0, &session, [&session, &call] { session.Start(call.file); });
+  QTimer::singleShot(0, &session, [&session, file = line.File()] { session.Start(file); });
   // The first window does not wait for it.
   QTimer::singleShot(0, &session, [&platform] {
     QGuiApplication::setWindowIcon(ProgramIcon(platform.screen.pictures));

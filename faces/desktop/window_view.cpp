@@ -66,6 +66,7 @@ WindowView::WindowView(Window& window, Desk& desk)
       focusPath_(*this) {
   MakeGroups();
   setMouseTracking(true);
+  setAcceptDrops(true);
   if (IsDialog()) setWindowModality(Qt::ApplicationModal);
 }
 

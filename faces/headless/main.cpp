@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "faces/game_file.h"
+#include "faces/files.h"
 #include "faces/headless/stream_game.h"
 #include "faces/kept_game.h"
 #include "faces/standard_streams.h"

@@ -5,7 +5,7 @@
 #include <system_error>
 #include <utility>
 
-#include "faces/game_file.h"
+#include "faces/files.h"
 
 namespace zelvo {
 

@@ -1,17 +1,23 @@
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QProcess>
+#include <QPushButton>
 #include <QTemporaryDir>
+#include <QUrl>
 #include <algorithm>
 #include <functional>
 #include <optional>
 #include <vector>
 
+#include "faces/desktop/word.h"
 #include "faces/game_file.h"
 #include "faces/kept_game.h"
 #include "faces/scripted/state.h"
@@ -117,9 +123,7 @@ class KeptOnDesktop : public testing::Test, public Player {
             Press(game.GFM.Untouched().Label8),
             Press(game.BK.Untouched().OPT1[4]),
             Press(game.BK.Untouched().CMDOK),
-            Press(game.GFM.Untouched().Image1[0]),
-            Press(game.GFM.Untouched().CMDEXIT),
-            Press(game.GST.Untouched().CMDSTART)};
+            Press(game.GFM.Untouched().Image1[0])};
   }
 
   QTemporaryDir folder;
@@ -157,6 +161,135 @@ TEST_F(KeptOnDesktop, AGameIsInItsFileAndTheScriptedProgramPlaysTheSame) {
   EXPECT_GT(InFile().count("tick GFM.Timer1"), 6);
 }
 
+TEST_F(KeptOnDesktop, AFileIsOneGameUpToTheLastMomentWithItsBoard) {
+  Control& door = game.GFM.Untouched().CMDEXIT;
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  Run({Press(game.GFM.Untouched().Image1[0])});
+  const QByteArray atTheDoor = InFile();
+  const QJsonObject onTheBoard = BelowTitle(State());
+  Run({Press(door), [this] { QTest::mouseMove(&View(game.GST)); }});
+  EXPECT_FALSE(game.GFM.Untouched().IsShown());
+  EXPECT_EQ(InFile(), atTheDoor);
+  // Whoever takes the door back goes on with the file.
+  Run({Keys(Qt::Key_Z), Press(game.GFM.Untouched().Image1[5])});
+  EXPECT_EQ(InFile().toStdString(), List());
+  EXPECT_GT(InFile().size(), atTheDoor.size());
+  // Another game is not for it.
+  const QByteArray last = InFile();
+  Run({Press(door), Press(game.GST.Untouched().CMDSTART), Press(game.GFM.Untouched().Image1[7])});
+  EXPECT_EQ(InFile(), last);
+  // What an older version has written beyond the board stands at the board, too.
+  PutIntoFile(atTheDoor + "click GFM.CMDEXIT\nhover GST\n");
+  ASSERT_EQ(session.GoOn(file.toStdString()), "");
+  Run({[] {}});
+  EXPECT_EQ(BelowTitle(State()), onTheBoard);
+  EXPECT_TRUE(InFile().startsWith(atTheDoor));
+  EXPECT_FALSE(InFile().contains("CMDEXIT"));
+  // A game that is taken back to ahead of its board is in the file as it was.
+  const QByteArray before = InFile();
+  Run({Keys(Qt::Key_Z), Keys(Qt::Key_Z)});
+  EXPECT_FALSE(game.GFM.Untouched().IsShown());
+  EXPECT_TRUE(InFile().contains("click GST.CMDSTART"));
+  EXPECT_LE(InFile().size(), before.size());
+}
+
+TEST_F(KeptOnDesktop, ItIsToldWhatACommandDidAndWhereTheGameIsKept) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  const auto told = [this] {
+    auto* word = platform.screen.Front()->findChild<Word*>();
+    return word == nullptr ? QString() : word->text();
+  };
+  EXPECT_EQ(told(), "Kept in a.zelvo.");
+  EXPECT_EQ(session.OpenMenu({})->actions().front()->text(), "Kept in a.zelvo");
+  qobject_cast<QMenu*>(QApplication::activePopupWidget())->close();
+  Run({Keys(Qt::Key_2)});
+  EXPECT_EQ(told(), "Waits twice as fast.");
+  Run({Press(game.GFM.Untouched().Image1[0]), Keys(Qt::Key_Z)});
+  EXPECT_EQ(told(), "Taken back.");
+}
+
+TEST_F(KeptOnDesktop, TheNameThatIsWrittenIsTheOneThatWasAskedForAndNoOtherFileGoesUnasked) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  const struct {
+    const char* typed;
+    std::string written;
+  } names[] = {{"24.11. Abend", "24.11. Abend.zelvo"},
+               {"x.txt", "x.txt.zelvo"},
+               {"end.", "end..zelvo"},
+               {"a.zelvo", "a.zelvo"},
+               {"say \"hi\" now", "say \"hi\" now.zelvo"}};
+  for (const auto& [typed, written] : names) {
+    Run({Keys(Qt::Key_S)});
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr) << typed;
+    dialog->setDirectory(folder.path());
+    dialog->findChild<QLineEdit*>("fileNameEdit")->setText(typed);
+    static_cast<QDialog*>(dialog)->accept();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !platform.gate.IsPaused(); })) << typed;
+    EXPECT_TRUE(QFile::exists(folder.filePath(QString::fromStdString(written)))) << written;
+  }
+  // An existing one goes only for a yes.
+  PutIntoFile("a letter");
+  const QString other = folder.filePath("b.zelvo");
+  ASSERT_EQ(session.Keep(other.toStdString()), "");
+  for (const QMessageBox::StandardButton button : {QMessageBox::No, QMessageBox::Yes}) {
+    Run({Keys(Qt::Key_S)});
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->selectedFiles(), QStringList(other)) << "the file it is in";
+    dialog->fileSelected(folder.filePath("a"));
+    dialog->reject();
+    QMessageBox* box = nullptr;
+    ASSERT_TRUE(QTest::qWaitFor([&box] {
+      box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      return box != nullptr;
+    }));
+    EXPECT_EQ(box->text(), "a.zelvo is there already. Replace it?");
+    box->button(button)->click();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !platform.gate.IsPaused(); }));
+    if (button == QMessageBox::No) {
+      EXPECT_EQ(InFile(), "a letter");
+    } else {
+      EXPECT_TRUE(QTest::qWaitFor([this] { return InFile().toStdString() == List(); }));
+    }
+  }
+}
+
+TEST_F(KeptOnDesktop, AFileThatIsDroppedOnAWindowIsGoneOnWith) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  const QJsonObject before = BelowTitle(State());
+  Run({Press(game.GFM.Untouched().CMDGO)});
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(file)});
+  PutIntoFile(InFile().left(InFile().indexOf("click GFM.CMDGO")));
+  QDragEnterEvent enter({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&View(game.GFM), &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  QDropEvent drop({9, 9}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&View(game.GFM), &drop);
+  EXPECT_TRUE(drop.isAccepted());
+  Run({[] {}});
+  EXPECT_EQ(BelowTitle(State()), before);
+}
+
+TEST_F(KeptOnDesktop, AFileThatAnotherProgramHasChangedIsLeftAloneAndItIsTold) {
+  Run({Press(game.GST.Untouched().CMDSTART)});
+  ASSERT_EQ(session.Keep(file.toStdString()), "");
+  PutIntoFile("a letter");
+  Press(game.GFM.Untouched().Image1[0])();
+  auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+  ASSERT_NE(box, nullptr);
+  EXPECT_TRUE(box->text().contains("another program has changed it")) << box->text().toStdString();
+  box->accept();
+  ASSERT_TRUE(QTest::qWaitFor(
+      [] { return qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr; }));
+  qobject_cast<QFileDialog*>(QApplication::activeModalWidget())->reject();
+  EXPECT_EQ(InFile(), "a letter");
+}
+
 TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
   ASSERT_EQ(session.Keep(file.toStdString()), "");
   std::vector<QJsonObject> states;
@@ -167,10 +300,14 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
       step();
     });
   }
+  steps.emplace_back([this, &states] {
+    states.push_back(BelowTitle(State()));
+    Press(game.GFM.Untouched().CMDEXIT)();
+  });
   Run(steps);
   states.push_back(BelowTitle(State()));
   const auto isStep = [](const QByteArray& line) { return line.startsWith("click "); };
-  const QList<QByteArray> lines = InFile().split('\n');
+  const QList<QByteArray> lines = QByteArray::fromStdString(List()).split('\n');
   ASSERT_GE(std::count_if(lines.begin(), lines.end(), isStep), 12);
 
   std::vector<QJsonObject> seen;
@@ -186,14 +323,14 @@ TEST_F(KeptOnDesktop, EveryDeedCanBeTakenBackAndDoneAgain) {
   for (const QJsonObject& state : seen) {
     EXPECT_TRUE(std::count(states.begin(), states.end(), state));
   }
-  EXPECT_EQ(WrittenOut(InFile().toStdString()), WrittenOut(List()));
+  EXPECT_TRUE(InFile().contains("click GST.CMDSTART")) << "a file keeps its board";
   EXPECT_TRUE(View(game.GST).isVisible());
   EXPECT_FALSE(View(game.GFM).isVisible());
 
   Steps again(30, Keys(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier));
   Run(again);
   EXPECT_EQ(BelowTitle(State()), states.back());
-  EXPECT_EQ(BelowTitle(StateInScriptedProgram()), states.back());
+  EXPECT_EQ(BelowTitle(StateInScriptedProgram()), states.end()[-2]) << "in its board's last moment";
   // Something else done leaves nothing to be done again.
   Run({Keys(Qt::Key_Z), Press(game.GST.Untouched().CMDSTART),
        Press(game.GFM.Untouched().Image1[0])});
@@ -290,6 +427,12 @@ TEST_F(KeptOnDesktop, AFileThatCanNoLongerBeWrittenIsToldOfAndTheGameGoesOn) {
                              " cannot be written, so the game is no longer kept there: No such "
                              "file or directory.");
   box->accept();
+  QFileDialog* elsewhere = nullptr;  // the game can be kept in another place
+  ASSERT_TRUE(QTest::qWaitFor([&] {
+    elsewhere = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    return elsewhere != nullptr;
+  }));
+  elsewhere->reject();
   Run({Press(game.GFM.Untouched().Image1[7])});
   EXPECT_EQ(game.CurLot, 7);
 }
@@ -306,7 +449,8 @@ TEST_F(KeptOnDesktop, TheMenuListsAllWithItsKeysAndTheGameStandsStillMeanwhile) 
     lines += action->isChecked() ? " (chosen)\n" : action->isEnabled() ? "\n" : " (not now)\n";
   }
   EXPECT_EQ(lines.toStdString(),
-            "Keep this game in a file...\tCtrl+S\nGo on with a kept game...\tCtrl+O\n"
+            "Not kept in a file (not now)\n-\nKeep this game in a file...\tCtrl+S\nGo on with a "
+            "kept game...\tCtrl+O\n"
             "Take back\tCtrl+Z\nDo again\tCtrl+Shift+Z (not now)\n-\n"
             "Waits as they are\tCtrl+1 (chosen)\nWaits twice as fast\tCtrl+2\n"
             "Waits five times as fast\tCtrl+5\n");
@@ -328,7 +472,6 @@ TEST_F(KeptOnDesktop, FilesAreChosenInADialogAndTheGameStandsStillMeanwhile) {
     ASSERT_NE(dialog, nullptr);
     EXPECT_EQ(dialog->windowTitle(), title);
     EXPECT_EQ(dialog->acceptMode(), mode);
-    EXPECT_EQ(dialog->defaultSuffix(), "zelvo");
     EXPECT_EQ(dialog->nameFilters().first(), "Kept games (*.zelvo)");
     EXPECT_TRUE(platform.gate.IsPaused());
     Keys(Qt::Key_Z)();  // which would take back

@@ -5,24 +5,15 @@
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QPainter>
-#include <QScreen>
 #include <QWindow>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "faces/commands.h"
-#include "faces/desktop/placing.h"
 #include "surface/speech.h"
 
 namespace zelvo {
 namespace {
-
-constexpr double twipsPerPixel = 15;  // at scale 1
-/// The part of the screen that a window takes when it comes up on its own.
-constexpr double shareOfScreen = 0.84;
-/// How small the player can make a window.
-constexpr double smallestScale = 0.5;
 
 Qt::WindowFlags FlagsOf(TitleBar titleBar) {
   constexpr Qt::WindowFlags titled =
@@ -104,28 +95,7 @@ ControlWidget* WindowView::Find(const Control& control) const {
   return found == widgets_.end() ? nullptr : *found;
 }
 
-// Place and size.
-
-QSize WindowView::DesignPixels(double scale) const {
-  const WindowDesign& design = window_.design();
-  return (QSizeF(design.width, design.height) * scale / twipsPerPixel).toSize();
-}
-
-double WindowView::Scale() const {
-  const WindowDesign& design = window_.design();
-  return std::min(static_cast<double>(width()) / design.width,
-                  static_cast<double>(height()) / design.height) *
-         twipsPerPixel;
-}
-
-void WindowView::SetScale(double scale) {
-  if (IsDialog()) {
-    setFixedSize(DesignPixels(scale));
-  } else {
-    setMinimumSize(DesignPixels(std::min(scale, smallestScale)));
-    resize(DesignPixels(scale));
-  }
-}
+// On the screen.
 
 void WindowView::Open(const WindowView* opener) {
   opening_ = true;
@@ -160,80 +130,6 @@ void WindowView::ComeAnew() {
   windowHandle()->destroy();
   windowHandle()->setVisible(true);
   BringToFront();
-}
-
-void WindowView::PlaceOnScreen() {
-  const QRect available = screen()->availableGeometry();
-  const QSize share = available.size() * shareOfScreen;
-  SetScale(ScaleThatFits(DesignPixels(1), share, HUGE_VAL));
-  QRect place(QPoint(), size());
-  place.moveCenter(available.center());
-  setGeometry(place);
-}
-
-void WindowView::TakePlaceOf(const WindowView& opener) {
-  setMinimumSize(opener.minimumSize());
-  if (opener.isMaximized()) {
-    PlaceOnScreen();  // for the day when it is no longer maximised
-    setWindowState(windowState() | Qt::WindowMaximized);
-    return;
-  }
-  setGeometry(opener.geometry());
-}
-
-void WindowView::PlaceOver(const WindowView& opener) {
-  const QMargins frame =
-      windowFlags().testFlag(Qt::FramelessWindowHint) ? QMargins() : opener.Frame();
-  const QRect room = opener.screen()->availableGeometry();
-  SetScale(ScaleThatFits(DesignPixels(1), room.marginsRemoved(frame).size(), opener.Scale()));
-  QRect place = QRect(QPoint(), size()).marginsAdded(frame);
-  place.moveCenter(opener.frameGeometry().center());
-  if (const QRect spot = opener.SpotOf(window_.keepsClearOf); spot.isValid()) {
-    place = MovedBeside(spot, room, place);
-  } else {
-    place = MovedInto(room, place);
-  }
-  setGeometry(place.marginsRemoved(frame));
-  winId();  // makes the native window, so that it can be tied to the opener's
-  windowHandle()->setTransientParent(opener.windowHandle());
-}
-
-/// Where a control of this window lies on the screen, with some ground around it; nowhere if the
-/// window shows no such control.
-QRect WindowView::SpotOf(const Control* control) const {
-  const ControlWidget* widget = control == nullptr ? nullptr : Find(*control);
-  if (widget == nullptr) return {};
-  const int ground = static_cast<int>(std::ceil(clearance * Scale() / twipsPerPixel));
-  return QRect(widget->mapToGlobal(QPoint()), widget->size())
-      .marginsAdded({ground, ground, ground, ground});
-}
-
-/// The title bar and the borders that the desktop has put around the window.
-QMargins WindowView::Frame() const {
-  return windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
-}
-
-/// What frame a window gets is known only once it has it.
-void WindowView::PutWholeOnScreen() {
-  if (!isVisible() || isMinimized() || isMaximized()) return;
-  const QRect room = screen()->availableGeometry();
-  if (room.contains(frameGeometry())) return;
-  const QSize inside = room.marginsRemoved(Frame()).size();
-  if (IsDialog()) {
-    SetScale(ScaleThatFits(DesignPixels(1), inside, Scale()));
-  } else {
-    resize(size().boundedTo(inside));
-  }
-  move(MovedInto(room, QRect(pos(), size().grownBy(Frame()))).topLeft());
-}
-
-void WindowView::LayOut() {
-  const WindowDesign& design = window_.design();
-  Mapping mapping;
-  mapping.unit = Scale() / twipsPerPixel;
-  mapping.left = (width() - design.width * mapping.unit) / 2;
-  mapping.top = (height() - design.height * mapping.unit) / 2;
-  for (ControlWidget* widget : widgets_) widget->Layout(mapping);
 }
 
 void WindowView::resizeEvent(QResizeEvent* /*event*/) {

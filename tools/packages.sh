@@ -2,6 +2,8 @@
 # shellcheck shell=bash disable=SC2034 # each script takes what it needs
 play_packages=(g++ cmake ninja-build qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' libpulse-dev libxcb1-dev
   fonts-dejavu-core)
+# To open windows in a session of Wayland.
+wayland_packages=(qt6-wayland)
 check_packages=("${play_packages[@]}" git clang clang-tidy libgtest-dev nlohmann-json3-dev libgl-dev
   pulseaudio   'libclang-rt-dev|libclang-rt-14-dev|libclang-common-14-dev')
 # clang-tidy reads the benchmarks as well.
@@ -9,7 +11,8 @@ tidy_packages=(python3 libbenchmark-dev)
 package_packages=(dpkg-dev desktop-file-utils appstream lintian mandoc)
 # For the tests of the real program: a screen, a window manager, a sound server and a bus of their own.
 machine_packages=(python3 xvfb xauth x11-utils openbox xdotool wmctrl pulseaudio pulseaudio-utils dbus
-  locales at-spi2-core python3-pyatspi)
+  locales at-spi2-core python3-pyatspi
+  x11-xserver-utils i3-wm weston sway "${wayland_packages[@]}")
 # For the page.
 page_packages=(clang cmake ninja-build lld binaryen wasi-libc python3 brotli librsvg2-bin esbuild
   'libc++-dev-wasm32|libc++-14-dev-wasm32' 'libclang-rt-dev-wasm32|libclang-rt-14-dev-wasm32')

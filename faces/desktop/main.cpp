@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QIcon>
+#include <QLibraryInfo>
 #include <QPixmapCache>
 #include <QTimer>
 #include <cstdlib>
@@ -90,9 +91,17 @@ Wish ReadWish(int argc, char** argv) {
   return wish;
 }
 
+/// True if the toolkit cannot open the display of a session of Wayland for want of its plugin.
+bool LacksPluginForWayland() {
+  if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) return false;
+  const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + "/platforms");
+  return plugins.entryList({"libqwayland*"}).isEmpty();
+}
+
 /// Says why no window can be opened. Returns the exit status.
 int SayThatThereIsNoDisplay(const Wish& wish, const std::string& reason) {
-  const std::string why = reason.empty() ? "" : " (" + reason + ")";
+  std::string why = reason.empty() ? "" : " (" + reason + ")";
+  if (LacksPluginForWayland()) why += "; windows on Wayland need the package qt6-wayland";
   return Complain(
       program,
       wish.platform.empty()

@@ -36,11 +36,11 @@ class Play(unittest.TestCase):
         cmake.write_text(CMAKE)
         cmake.chmod(0o755)
 
-    def play(self, script, status=0, **options):
+    def play(self, script, status=0, environment=None, **options):
         done = subprocess.run([script, "a file"], cwd="/", text=True, stdout=subprocess.PIPE,
                               stderr=subprocess.PIPE, **options, env={
                                   "PATH": f"{self.folder}/bin:{os.environ['PATH']}",
-                                  "HOME": str(self.home)})
+                                  "HOME": str(self.home), **(environment or {})})
         self.assertEqual(done.returncode, status, done.stderr)
         return done.stdout + done.stderr
 
@@ -52,6 +52,16 @@ class Play(unittest.TestCase):
         (build / "CMakeCache.txt").write_text("another")
         self.assertEqual(self.play(link), f"{build}/zelvo a file in /\n")
         self.assertFalse((build / "CMakeCache.txt").exists())
+
+    def test_what_windows_on_wayland_need_is_installed_where_the_session_is_one(self):
+        install = self.tree / "tools/install-packages"
+        install.write_text('#!/bin/sh\necho "$@"\n')
+        for session, needs in (({"WAYLAND_DISPLAY": "wayland-0"}, True),
+                               ({"XDG_SESSION_TYPE": "wayland"}, True),
+                               ({"XDG_SESSION_TYPE": "x11"}, False)):
+            with self.subTest(**session):
+                said = self.play(self.tree / "play", environment=session)
+                self.assertEqual("qt6-wayland" in said.split(), needs, said)
 
     def test_from_a_folder_that_can_only_be_read(self):
         # Root can write anywhere.

@@ -3,8 +3,11 @@
 #include <QApplication>
 #include <QEvent>
 #include <QMessageBox>
+#include <QScreen>
 #include <algorithm>
 #include <utility>
+
+#include "faces/desktop/placing.h"
 
 namespace zelvo {
 
@@ -12,6 +15,11 @@ Screen::Screen(Gate& theGate, const QString& pictureFolder, Voice::Speaker speak
     : Desk(theGate, pictureFolder, std::move(speaker), std::move(helpers)) {
   qApp->installEventFilter(this);
   qApp->installNativeEventFilter(&lostWindows_);
+  for (const QScreen* screen : QGuiApplication::screens()) Watch(screen);
+  connect(qApp, &QGuiApplication::screenAdded, this, &Screen::Watch);
+  // The toolkit has moved nothing yet.
+  connect(qApp, &QGuiApplication::screenRemoved, this, &Screen::FollowScreens,
+          Qt::QueuedConnection);
 }
 
 Screen::~Screen() = default;
@@ -90,6 +98,26 @@ void Screen::TellExtents(Surface& surface) {
     if (extent == window->extent) continue;
     window->extent = extent;
     gate.Deliver([window, extent](Surface& game) { game.Resize(*window, extent); }, view);
+  }
+}
+
+void Screen::Watch(const QScreen* screen) {
+  connect(screen, &QScreen::availableGeometryChanged, this, &Screen::FollowScreens,
+          Qt::QueuedConnection);
+}
+
+/// A screen has become smaller or is gone.
+void Screen::FollowScreens() {
+  for (WindowView* view : open_) {
+    const Window* opener = view->window().opener();
+    view->FollowScreen(opener == nullptr ? nullptr : ViewOf(*opener));
+  }
+  // Message boxes and what else the toolkit shows.
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    if (!widget->isVisible() || dynamic_cast<WindowView*>(widget) != nullptr) continue;
+    const QRect room = widget->screen()->availableGeometry();
+    if (room.contains(widget->frameGeometry())) continue;
+    widget->move(MovedInto(room, widget->frameGeometry()).topLeft());
   }
 }
 

@@ -10,6 +10,8 @@
 #include "faces/desktop/lost_window.h"
 #include "faces/desktop/window_view.h"
 
+class QScreen;
+
 namespace zelvo {
 
 /// The game's windows on the screen, as its data has them.
@@ -39,6 +41,8 @@ class Screen final : public QObject, public Desk {
   void Draw(Surface& surface);
   void OpenAndCloseWindows(Surface& surface);
   bool IsOpen(const WindowView* view) const;
+  void Watch(const QScreen* screen);
+  void FollowScreens();
   void LoseWindow(WId id);
 
   std::map<const Window*, std::unique_ptr<WindowView>> views_;

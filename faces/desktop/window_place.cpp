@@ -1,3 +1,4 @@
+#include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -50,6 +51,8 @@ void WindowView::PlaceOnScreen() {
 }
 
 void WindowView::TakePlaceOf(const WindowView& opener) {
+  // A click on what is seen of the opener would bury this window, which could not come up again.
+  if (IsOnWayland()) StayAbove(opener);
   setMinimumSize(opener.minimumSize());
   if (opener.isMaximized()) {
     PlaceOnScreen();  // for the day when it is no longer maximised
@@ -57,6 +60,18 @@ void WindowView::TakePlaceOf(const WindowView& opener) {
     return;
   }
   setGeometry(opener.geometry());
+  // A desktop that tiles would halve the screen between the two. It leaves alone a window that
+  // comes up with a fixed size.
+  if (QGuiApplication::platformName() == "xcb") setFixedSize(size());
+}
+
+/// What a window can be only once it is on the screen.
+void WindowView::Settle() {
+  if (!IsDialog() && minimumSize() == maximumSize()) {
+    setMinimumSize(DesignPixels(std::min(Scale(), smallestScale)));
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+  }
+  PutWholeOnScreen();
 }
 
 void WindowView::PlaceOver(const WindowView& opener) {
@@ -72,6 +87,10 @@ void WindowView::PlaceOver(const WindowView& opener) {
     place = MovedInto(room, place);
   }
   setGeometry(place.marginsRemoved(frame));
+  StayAbove(opener);
+}
+
+void WindowView::StayAbove(const WindowView& opener) {
   winId();  // makes the native window, so that it can be tied to the opener's
   windowHandle()->setTransientParent(opener.windowHandle());
 }
@@ -89,6 +108,14 @@ QRect WindowView::SpotOf(const Control* control) const {
 /// The title bar and the borders that the desktop has put around the window.
 QMargins WindowView::Frame() const {
   return windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+}
+
+void WindowView::FollowScreen(const WindowView* opener) {
+  const QRect room = screen()->availableGeometry();
+  if (opener != nullptr && IsDialog() && !room.contains(frameGeometry())) PlaceOver(*opener);
+  PutWholeOnScreen();
+  frameIsNew_ = true;  // some desktops give another one with another size
+  update();
 }
 
 /// What frame a window gets is known only once it has it.

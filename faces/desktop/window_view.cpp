@@ -99,6 +99,7 @@ ControlWidget* WindowView::Find(const Control& control) const {
 
 void WindowView::Open(const WindowView* opener) {
   opening_ = true;
+  if (windowHandle() == nullptr && IsOnWayland()) NoteMinimising();
   // The window may have been unloaded while it was maximised.
   if (extent_ != window_.extent) ApplyExtent();
   if (opener == nullptr) {
@@ -117,6 +118,25 @@ void WindowView::Open(const WindowView* opener) {
   frameIsNew_ = true;
   show();
   opening_ = false;
+}
+
+/// There only the player orders windows, and the desktop tells a window little of itself.
+bool WindowView::IsOnWayland() { return QGuiApplication::platformName().startsWith("wayland"); }
+
+/// Wayland tells a window neither that it is minimised nor that it comes back. So it is minimised
+/// from when the player pressed the button of its frame until something reaches it again.
+void WindowView::NoteMinimising() {
+  winId();  // makes the native window
+  connect(windowHandle(), &QWindow::windowStateChanged, this, [this](Qt::WindowState state) {
+    if (state == Qt::WindowMinimized) setWindowState(windowState() | state);
+  });
+  windowHandle()->installEventFilter(this);
+}
+
+bool WindowView::eventFilter(QObject* /*native*/, QEvent* event) {
+  const bool reachesPlayer = event->isInputEvent() || event->type() == QEvent::FocusIn;
+  if (reachesPlayer && isMinimized()) setWindowState(windowState() & ~Qt::WindowMinimized);
+  return false;
 }
 
 void WindowView::BringToFront() {
@@ -168,14 +188,15 @@ void WindowView::Sync() {
 }
 
 /// What comes back from being minimised comes up on top and active on most desktops. So the start
-/// window, which follows the board, waits until it is in front itself.
+/// window, which follows the board, waits until it is in front itself. On Wayland none comes back
+/// by what the program does.
 bool WindowView::MustStayMinimised() const {
-  return extent_ == Extent::Minimised && desk_.Front() != this;
+  return !IsOnWayland() && extent_ == Extent::Minimised && desk_.Front() != this;
 }
 
 void WindowView::paintEvent(QPaintEvent* /*event*/) {
   if (std::exchange(frameIsNew_, false)) {
-    QMetaObject::invokeMethod(this, &WindowView::PutWholeOnScreen, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, &WindowView::Settle, Qt::QueuedConnection);
   }
   QPainter(this).fillRect(rect(), ToColor(window_.design().ground));
 }

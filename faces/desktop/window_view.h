@@ -41,6 +41,8 @@ class WindowView : public QWidget {
   void BringToFront();
   /// Comes back to the screen after its native window was destroyed from outside.
   void ComeAnew();
+  /// The screen has changed or is gone: lies wholly on what there is.
+  void FollowScreen(const WindowView* opener);
   /// Carries over what the window's data holds.
   void Sync();
   /// 1 is the design size at 96 dpi.
@@ -64,6 +66,7 @@ class WindowView : public QWidget {
   void ShowFocus();
 
  protected:
+  bool eventFilter(QObject* native, QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -78,14 +81,18 @@ class WindowView : public QWidget {
   std::vector<ControlWidget*> MakeWidgets();
   void MakeGroups();
   QSize DesignPixels(double scale) const;
+  void Settle();
   void TakePlaceOf(const WindowView& opener);
   void PlaceOnScreen();
   void PlaceOver(const WindowView& opener);
+  void StayAbove(const WindowView& opener);
   QRect SpotOf(const Control* control) const;
   void PutWholeOnScreen();
   QMargins Frame() const;
   void LayOut();
   void ApplyExtent();
+  static bool IsOnWayland();
+  void NoteMinimising();
   bool MustStayMinimised() const;
   void TellSize();
   void DeliverClick(const std::function<void(Surface&)>& click);

@@ -166,6 +166,7 @@ char InitialOf(const Control& control) {
 
 Control* NextWithInitial(const std::vector<Stop>& stops, const LastPlaces& last,
                          const Control& from, char initial) {
+  if (initial == 0) return nullptr;
   const auto isWalked = [](const Stop& stop) { return WalkedGroup(*stop.front()) != nullptr; };
   const auto own = std::find_if(stops.begin(), stops.end(),
                                 [&](const Stop& s) { return isWalked(s) && Holds(s, &from); });

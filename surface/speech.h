@@ -15,6 +15,10 @@ std::string SpokenName(const Control& control);
 /// What a control shows now, as in "casino".
 std::string SpokenContent(const Control& control);
 
+/// What is said to a letter with which nothing begins to which the keyboard could go; the letter
+/// and a full stop follow.
+constexpr std::string_view nothingBeginsWith = "Nothing here begins with ";
+
 /// What a window is, its title as a rule.
 std::string SpokenName(const Window& window);
 

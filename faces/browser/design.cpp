@@ -201,6 +201,7 @@ std::string DesignAsJson(const std::vector<const Window*>& windows,
       .Add("clearance", Number(clearance))
       .Add("cues", CuesAsJson())
       .Add("commands", Array(commands, [](const CommandDesign& each) { return AsJson(each); }))
+      .Add("nothing", Quoted(nothingBeginsWith))
       .Add("questions", Array(questionDesigns, [](const QuestionDesign& q) { return AsJson(q); }))
       .Text();
 }

@@ -103,7 +103,7 @@ void Page::SyncFrames() {
     if (!frame.window->IsShown() || frame.title == frame.window->Caption) continue;
     frame.title = frame.window->Caption;
     titles.append(titles.empty() ? "" : ",").append("{\"at\":").append(Number(i));
-    titles.append(",\"title\":").append(Quoted(frame.title));
+    titles.append(",\"title\":").append(Quoted(*frame.title));
     titles.append(",\"name\":").append(Quoted(SpokenName(*frame.window))) += '}';
   }
   if (!titles.empty()) Tell("titles", '[' + titles + ']');

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -47,7 +48,7 @@ class Page {
   };
   struct Frame {
     const Window* window = nullptr;
-    std::string title;
+    std::optional<std::string> title;  // that the page shows
   };
 
   struct Message {

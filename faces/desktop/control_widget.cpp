@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <cmath>
+#include <string_view>
 
 #include "faces/desktop/window_view.h"
 #include "surface/speech.h"
@@ -18,6 +19,20 @@ constexpr int markGap = 90;    // twips
 
 bool HasMark(const Control& control) {
   return control.kind() == Kind::Option || control.kind() == Kind::CheckBox;
+}
+
+/// The letter at a place of Latin keyboards, for those with another script; 0 at other places.
+char LetterAtPlace(quint32 scanCode) {
+  struct Row {
+    quint32 first = 0;
+    std::string_view letters;
+  };
+  static constexpr Row rows[] = {{24, "qwertyuiop"}, {38, "asdfghjkl"}, {52, "zxcvbnm"}};
+  for (const Row& row : rows) {
+    const quint32 place = scanCode - row.first;
+    if (scanCode >= row.first && place < row.letters.size()) return row.letters[place];
+  }
+  return 0;
 }
 
 }  // namespace
@@ -268,7 +283,9 @@ void ControlWidget::keyPressEvent(QKeyEvent* event) {
   }
   const bool letter = !event->text().isEmpty() && event->text().front().isLetter();
   if (!letter) return QWidget::keyPressEvent(event);
-  const char initial = event->text().front().toLower().toLatin1();
+  const char latin = event->text().front().toLower().toLatin1();
+  const bool printed = latin >= 'a' && latin <= 'z';
+  const char initial = printed ? latin : LetterAtPlace(event->nativeScanCode());
   view_.focusPath().WalkToInitial(control_, initial);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "faces/desktop/window_view.h"
+#include "surface/speech.h"
 
 namespace zelvo {
 
@@ -57,7 +58,10 @@ void FocusPath::Walk(const Control& from, Step step) {
 
 void FocusPath::WalkToInitial(const Control& from, char initial) {
   const Control* next = NextWithInitial(stops_, last_, from, initial);
-  if (next != nullptr) GoTo(*next, Qt::TabFocusReason);
+  if (next != nullptr) return GoTo(*next, Qt::TabFocusReason);
+  const char letter = initial >= 'a' && initial <= 'z' ? static_cast<char>(initial - 'a' + 'A') : 0;
+  if (letter == 0) return;
+  view_.desk().voice.Say(QString::fromStdString(std::string(nothingBeginsWith) + letter + '.'));
 }
 
 }  // namespace zelvo

@@ -31,7 +31,7 @@ class FocusPath {
   /// Goes to the nearest control of a walked group in a direction, as from lot to lot; an option is
   /// selected by that.
   void Walk(const Control& from, Step step);
-  /// Goes to the next control that shows something with that initial.
+  /// Goes to the next control that shows something with that initial, or says that there is none.
   void WalkToInitial(const Control& from, char initial);
 
  private:

@@ -1,14 +1,14 @@
 // The real page in a real browser, and the scripted face beside it.
 
 import { spawn, spawnSync } from 'node:child_process';
-import { mkdtempSync, rmSync } from 'node:fs';
+import { mkdirSync, mkdtempSync, rmSync, writeFileSync } from 'node:fs';
 import { createRequire } from 'node:module';
 import { tmpdir } from 'node:os';
 import { join, resolve } from 'node:path';
 import readline from 'node:readline';
 
 export const root = resolve(import.meta.dirname ?? new URL('.', import.meta.url).pathname, '../..');
-const require = createRequire(join(root, 'build/browser/tests/'));
+export const require = createRequire(join(root, 'build/browser/tests/'));
 const { chromium } = require('playwright-core');
 
 const headless = process.env.ZELVO_HEADLESS ?? join(root, 'build/release/zelvo-headless');
@@ -24,12 +24,13 @@ export async function start() {
     readline.createInterface({ input: server.stdout }).once('line', (line) => done([line]));
   });
   const profile = mkdtempSync(join(tmpdir(), 'zelvo-browser-'));
-  const browser = await chromium.launch({
+  const launched = {
     executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
-    args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run',
+    args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--window-size=1280,1000',
       '--disable-background-networking', '--disable-component-update', '--disable-sync'],
     env: { ...process.env, HOME: profile },
-  });
+  };
+  const browser = await chromium.launch(launched);
   return {
     address,
     /// A new page with a profile of its own. What goes wrong in it is gathered in `page.wrongs`.
@@ -43,6 +44,17 @@ export async function start() {
         (event) => console.error(`policy: ${event.violatedDirective} ${event.blockedURI}`)));
       await prepare?.(page);
       page.answer = await page.goto(address + query);
+      return page;
+    },
+    /// A page in a browser of its own that a player has set up: `preferences` are what the browser
+    /// would have written down of it.
+    async pageSetUp(preferences, query) {
+      const folder = mkdtempSync(join(profile, 'set-up-'));
+      mkdirSync(join(folder, 'Default'));
+      writeFileSync(join(folder, 'Default/Preferences'), JSON.stringify(preferences));
+      const context = await chromium.launchPersistentContext(folder, { ...launched, viewport: null });
+      const page = await context.newPage();
+      await page.goto(address + query);
       return page;
     },
     async closePages() {

@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <QAccessible>
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <algorithm>
@@ -128,6 +130,30 @@ TEST_F(Speech, HelpersHearOfANewNameAndANewTick) {
   EXPECT_EQ(after([&] { lot.Caption = "Mall"; }), renamed);
   EXPECT_TRUE(after([&] { lot.SetEnabled(false); }).empty());
   EXPECT_EQ(after([&] { box.SetValue(!box.Value()); }), ticked);
+}
+
+TEST_F(Speech, ALetterGoesByItsPlaceOnOtherKeyboardsAndSaysSoIfItFitsNothing) {
+  StartGame();
+  game.GFM->Image1[42].Picture = PictureId::ICF_MALL;
+  ControlWidget& icon = Widget(game.GFM->SUPER);
+  const auto type = [&](const QString& printed, quint32 place) {
+    icon.setFocus();
+    Heard();
+    QKeyEvent event(QEvent::KeyPress, 0, Qt::NoModifier, place, 0, 0, printed);
+    QCoreApplication::sendEvent(&icon, &event);
+  };
+  constexpr quint32 placeOfM = 58;
+  for (const auto& [printed, place] :
+       {std::pair(u"m", 0U), std::pair(u"\u044c", placeOfM), std::pair(u"m", 24U)}) {
+    type(QString::fromUtf16(printed), place);
+    EXPECT_TRUE(Widget(game.GFM->Image1[42]).hasFocus());
+    EXPECT_EQ(Heard(), Texts());
+  }
+  type("x", 0);
+  EXPECT_TRUE(icon.hasFocus());
+  EXPECT_EQ(Heard(), Texts{"Nothing here begins with X."});
+  type(QString::fromUtf16(u"\u00f6"), 47);
+  EXPECT_EQ(Heard(), Texts());
 }
 
 TEST_F(Speech, WhatIsSaidGoesToHelpersAsANotificationOfTheProgram) {

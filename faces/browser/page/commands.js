@@ -3,6 +3,7 @@
 
 import { makeBox } from './dialogs.js';
 import { make } from './element.js';
+import { printed } from './keys.js';
 
 const longTouch = 600;  // milliseconds
 const slip = 10;  // pixels that a finger may move meanwhile
@@ -124,12 +125,13 @@ export class Commands {
 
   #openMenu(left, top) {
     if (this.#isOpen || document.body.dataset.waiting === 'ended') return;
-    const menu = make('dialog', 'menu own');
-    menu.setAttribute('role', 'menu');
-    menu.setAttribute('aria-label', 'Game');
+    const list = make('div', '');
+    list.setAttribute('role', 'menu');
+    const menu = make('dialog', 'menu own', list);
+    for (const named of [menu, list]) named.setAttribute('aria-label', 'Game');
     for (const design of this.#designs) {
-      if (design.pace === 1) menu.append(document.createElement('hr'));
-      menu.append(this.#makeItem(design, menu));
+      if (design.pace === 1) list.append(document.createElement('hr'));
+      list.append(this.#makeItem(design, menu));
     }
     this.#listenTo(menu);
     addEventListener('resize', () => menu.close(), { once: true });
@@ -190,7 +192,7 @@ export class Commands {
     const held = [[event.ctrlKey || event.metaKey, 'Ctrl+'], [event.shiftKey, 'Shift+'],
       [event.altKey, 'Alt+']];
     const key = held.map(([isHeld, name]) => (isHeld ? name : '')).join('')
-      + event.key.toUpperCase();
+      + printed(event);
     const design = this.#designs.find((each) => each.key.toUpperCase() === key.toUpperCase());
     if (design === undefined) return undefined;
     event.preventDefault();

@@ -71,7 +71,10 @@ export class Controls {
     }
     const marked = ['option', 'checkbox'].includes(design.kind);
     if (changed('value') && marked) element.setAttribute('aria-checked', told.value);
-    if (changed('inHand')) element.classList.toggle('in-hand', told.inHand);
+    if (changed('inHand')) {
+      element.classList.toggle('in-hand', told.inHand);
+      if (element.matches('[role=gridcell]')) element.setAttribute('aria-selected', told.inHand);
+    }
     if (changed('visible')) this.#becomeVisible(control);
     if (changed('caption') || changed('visible')) this.#tight.add(element);
     this.#keyboard.changed(control);
@@ -103,6 +106,8 @@ export class Controls {
     element.classList.toggle('vertical', look.vertical);
     element.classList.toggle('ground', look.ground !== '');
     element.classList.toggle('listens', design.clicks);
+    // A finger's tap goes to what listens nearby, unless this does.
+    if (!design.clicks) element.onclick = () => {};
     element.hidden = true;
     const caption = make('span', 'caption');
     const spoken = make('span', 'spoken');

@@ -23,7 +23,7 @@ export function makeBox(name, icon, { title, text, answers }) {
     button.dataset.answer = answer.toLowerCase();
     return button;
   });
-  const box = make('dialog', 'window message', make('header', 'bar', make('span', 'title', title)),
+  const box = make('dialog', 'window message', make('header', 'bar', make('h1', 'title', title)),
     make('div', 'told', sentence), make('div', 'answers', ...buttons));
   if (icon) {
     const sign = make('span', 'icon', icon);

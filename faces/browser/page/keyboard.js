@@ -1,6 +1,8 @@
 // The keyboard: where it is, and what its keys do. The order of stops and what lies which way comes
 // with the design.
 
+import { printed } from './keys.js';
+
 const takesFocus = ({ stop, element }) => stop !== null && !element.hidden && !element.disabled;
 
 /// Where Tab enters a stop: where the keyboard was last, else at the option that is selected, else at
@@ -23,6 +25,8 @@ export class Keyboard {
   #hover;
   #put;
   #ask;
+  #say;
+  #nothing = '';  // fits a letter, in words
   #stepKeys = [];
   #questions = new Map();  // by key
   #keys = new Set(['Escape']);  // all that press something
@@ -31,19 +35,21 @@ export class Keyboard {
   #passedTo = null;  // and this one got it
   #moved = new Set();  // stops whose entry may be another one now
 
-  build({ controls, stepKeys, questions }) {
+  build({ controls, stepKeys, questions, nothing }) {
+    this.#nothing = nothing;
     this.#stepKeys = stepKeys;
     this.#questions = new Map(questions.map(({ key, text }) => [key, text]));
     for (const { key } of [...controls, ...questions]) this.#keys.add(key);
   }
 
   /// `front` tells what takes input.
-  listen({ front, controls, hover, put, ask }) {
+  listen({ front, controls, hover, put, ask, say }) {
     this.#front = front;
     this.#controls = controls;
     this.#hover = hover;
     this.#put = put;
     this.#ask = ask;
+    this.#say = say;
     document.addEventListener('keydown', (event) => this.#keyPressed(event), true);
     document.addEventListener('keyup', () => (this.#isWalking = false), true);
     document.addEventListener('pointerdown', () => document.body.classList.remove('keys'), true);
@@ -55,6 +61,7 @@ export class Keyboard {
   /// The window comes up.
   start(window) {
     this.#left = null;
+    window.last = null;
     for (const stop of window.stops) {
       stop.last = null;
       rove(stop);
@@ -66,10 +73,7 @@ export class Keyboard {
   /// back while the focus is still there, as the button that ends the turn does, it gets it again.
   leave(control) {
     if (document.activeElement !== control.element) return;
-    const { window } = control.stop;
-    const inHand = window.controls.find(
-      (other) => other.shows?.inHand && other !== control && takesFocus(other));
-    this.#passedTo = inHand ?? this.#firstOf(window, control);
+    this.#passedTo = this.#standIn(control.stop.window, control);
     this.#isWalking = false;
     this.#passedTo?.element.focus();
     this.#left = control;
@@ -89,6 +93,24 @@ export class Keyboard {
     this.#moved.clear();
   }
 
+  /// The focus that went with a message, or with what it was on under a dialog, comes back to where it
+  /// was, or to what stands in for that.
+  recover() {
+    const { box, window } = this.#front;
+    if (box !== null || !window || document.activeElement !== document.body) return;
+    if (document.querySelector('.own') !== null) return;
+    const { last } = window;
+    const to = last && takesFocus(last) ? last : this.#standIn(window);
+    this.#isWalking = false;
+    to?.element.focus({ preventScroll: true });
+  }
+
+  #standIn(window, without) {
+    const inHand = window.controls.find(
+      (other) => other.shows?.inHand && other !== without && takesFocus(other));
+    return inHand ?? this.#firstOf(window, without);
+  }
+
   #firstOf(window, without) {
     return window.stops.map((stop) => entryOf(stop, without)).find(Boolean);
   }
@@ -99,6 +121,7 @@ export class Keyboard {
     if (control !== this.#passedTo) this.#left = null;
     if (control.stop !== null) {
       control.stop.last = control;
+      control.stop.window.last = control;
       rove(control.stop);
     }
     if (this.#isWalking) this.#hover(control);
@@ -107,7 +130,7 @@ export class Keyboard {
   // The keys.
 
   #keyPressed(event) {
-    const { key } = event;
+    const key = printed(event);
     document.body.classList.add('keys');
     const control = this.#controls.of(document.activeElement);
     const isModified = event.ctrlKey || event.altKey || event.metaKey;
@@ -117,12 +140,12 @@ export class Keyboard {
     if (isStep && control?.design.walked) {
       event.preventDefault();
       this.#walk(control, key);
-    } else if (isLetter && control?.stop) {
-      this.#walkToInitial(control, key.toLowerCase());
+    } else if (isLetter && this.#front.window) {
+      this.#walkToInitial(this.#front.window, control?.stop, key.toLowerCase());
     } else if (key === 'Enter' && event.repeat) {
       event.preventDefault();
     } else {
-      this.#pressByKey(event);
+      this.#pressByKey(event, key);
     }
   }
 
@@ -139,20 +162,21 @@ export class Keyboard {
 
   /// To the next that shows something with that initial, as from one open lot to the next: in the
   /// walked group where the keyboard is, else in the window's first one.
-  #walkToInitial({ stop }, initial) {
-    const isWalked = ({ members }) => members[0].design.walked;
-    const groups = [stop, ...stop.window.stops.filter(isWalked).slice(0, 1)].filter(isWalked);
+  #walkToInitial({ stops }, stop, initial) {
+    const isWalked = (group) => group?.members[0].design.walked;
+    const groups = [stop, stops.find(isWalked)].filter(isWalked);
     const next = groups.flatMap((group) => {
       const { members } = group;
       const behind = members.indexOf(entryOf(group)) + 1;
       return [...members.slice(behind), ...members.slice(0, behind)];
     }).find((member) => takesFocus(member) && member.shows.initial === initial);
-    next?.element.focus();
+    if (next) next.element.focus();
+    else this.#say(`${this.#nothing}${initial.toUpperCase()}.`);
   }
 
-  #pressByKey(event) {
+  #pressByKey(event, printedKey) {
     const modifiers = [['ctrlKey', 'Ctrl+'], ['shiftKey', 'Shift+'], ['altKey', 'Alt+']];
-    const key = modifiers.map(([name, text]) => (event[name] ? text : '')).join('') + event.key;
+    const key = modifiers.map(([name, text]) => (event[name] ? text : '')).join('') + printedKey;
     if (!this.#keys.has(key)) return;
     event.preventDefault();
     if (event.repeat) return;

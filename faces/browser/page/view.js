@@ -60,7 +60,8 @@ export class View {
   /// he wants to hear to another.
   listen(put, ask) {
     const hover = (thing) => this.#pointer.hover(thing);
-    const needs = { front: this.#front, controls: this.#controls, hover, put, ask };
+    const say = (text) => this.#say(text);
+    const needs = { front: this.#front, controls: this.#controls, hover, put, ask, say };
     this.#pointer.listen(needs);
     this.#keyboard.listen(needs);
     addEventListener('resize', () => this.#windows.arrange());
@@ -94,6 +95,7 @@ export class View {
     if ('focus' in change) this.#controls.at(change.focus)?.element.focus();
     if ('waiting' in change) document.body.dataset.waiting = change.waiting;
     if (change.waiting === 'ended') this.#windows.end();
+    this.#keyboard.recover();
     this.#controls.fitTexts();
     this.#pointer.changed();
   }

@@ -37,6 +37,7 @@ export class Windows {
   title(told) {
     for (const { at, title, name } of told) {
       this.#all[at].title.textContent = title;
+      this.#all[at].title.setAttribute('aria-label', title || name);
       this.#all[at].element.setAttribute('aria-label', name);
     }
   }
@@ -90,7 +91,7 @@ export class Windows {
     const again = make('button', 'answer', 'Play again');
     again.addEventListener('click', () => location.reload());
     for (const window of this.#all) window.element.remove();
-    document.body.append(make('section', 'end', make('p', '', 'The game is over.'), again));
+    document.body.append(make('main', 'end', make('h1', '', 'The game is over.'), again));
     again.focus();
   }
 
@@ -99,8 +100,8 @@ export class Windows {
     client.style.backgroundColor = design.ground;
     const element = make(design.dialog ? 'dialog' : 'main', 'window', client);
     element.dataset.window = design.id;
-    const title = make('span', 'title');
-    if (design.titled) element.append(this.#makeTitleBar(design, title));
+    const title = make('h1', design.titled ? 'title' : 'spoken');
+    element.append(design.titled ? this.#makeTitleBar(design, title) : title);
     const controls = design.order.map((at) => this.#controls.at(at));
     const window = { design, element, client, title, controls, open: false };
     window.stops = design.stops.map((places) => this.#makeStop(window, places));
@@ -173,7 +174,10 @@ export class Windows {
   #cover() {
     const top = this.#stack.findLast((window) => !window.design.dialog);
     for (const window of this.#stack) {
-      if (!window.design.dialog) window.element.inert = window !== top;
+      if (window.design.dialog) continue;
+      const comesBack = window === top && window.element.inert;
+      window.element.inert = window !== top;
+      if (comesBack) this.#keyboard.start(window);
     }
   }
 

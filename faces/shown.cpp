@@ -1,8 +1,15 @@
 #include "faces/shown.h"
 
-#include "surface/window.h"
+#include "surface/surface.h"
 
 namespace zelvo {
+namespace {
+
+bool IsInHand(const Control& control) {
+  return control.window().surface().InHand(control.window()) == &control;
+}
+
+}  // namespace
 
 Shown Shown::Of(const Control& control) {
   return {control.Caption,
@@ -11,13 +18,13 @@ Shown Shown::Of(const Control& control) {
           control.Enabled(),
           control.Value(),
           control.VisibleInWindow(),
-          control.window().inHand == &control};
+          IsInHand(control)};
 }
 
 bool Shown::Shows(const Control& control) const {
   return visible == control.VisibleInWindow() && picture == control.Picture &&
          enabled == control.Enabled() && value == control.Value() &&
-         inHand == (control.window().inHand == &control) && caption == control.Caption &&
+         inHand == IsInHand(control) && caption == control.Caption &&
          text == control.Text;
 }
 

@@ -1,5 +1,8 @@
 #include "game/turn.h"
 
+#include <algorithm>
+#include <array>
+
 #include "computer/computer_turn.h"
 #include "economy/revenue.h"
 #include "events/board_event.h"
@@ -11,6 +14,11 @@
 
 namespace zelvo {
 namespace {
+
+/// The buttons that act on the lot in hand.
+constexpr std::array<Member<Control, GFMWindow>, 5> actions = {
+    &GFMWindow::BUILDIT, &GFMWindow::CMDBUILD, &GFMWindow::CMDSELL, &GFMWindow::CMDBUY,
+    &GFMWindow::CMDSHOT};
 
 /// Bare lots count as properties; malls and casinos count for nobody.
 void CountProperties(Game& g) {
@@ -60,11 +68,15 @@ void YearTick(Game& g) {
 }
 
 void HideActions(Game& g) {
-  g.GFM->BUILDIT.Visible = false;
-  g.GFM->CMDBUILD.Visible = false;
-  g.GFM->CMDSELL.Visible = false;
-  g.GFM->CMDBUY.Visible = false;
-  g.GFM->CMDSHOT.Visible = false;
+  for (const auto action : actions) (g.GFM->*action).Visible = false;
+}
+
+const Control* Game::InHand(const Window& window) const {
+  const GFMWindow& board = GFM.Untouched();
+  if (&window != &board) return window.inHand;
+  const bool act = std::any_of(actions.begin(), actions.end(),
+                               [&](auto action) { return (board.*action).Visible; });
+  return act ? &board.Image1[CurLot] : window.inHand;
 }
 
 void GFM::CMDGO_Click(Game& g) {

@@ -26,6 +26,9 @@ class Surface {
   Window* FindWindow(std::string_view name) const;
   /// What a picture shows, in words for those who do not see it; empty for none.
   virtual std::string_view MeaningOf(PictureId picture) const = 0;
+  /// The control of a window that the player has in hand, which the faces mark; null if there is
+  /// none.
+  virtual const Control* InHand(const Window& window) const { return window.inHand; }
 
   /// The program's start: loads the first window.
   virtual void Start() = 0;

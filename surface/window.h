@@ -82,8 +82,8 @@ class Window {
   /// A control of another window that the player is to see while this one is shown, or null: a face
   /// places the window beside it.
   const Control* keepsClearOf = nullptr;
-  /// The picture of an array that the player clicked last, which the buttons are for; null if there
-  /// is none, and once the game has begun to show something.
+  /// The picture of an array that the player clicked last; null if there is none, and once the game
+  /// has begun to show something.
   const Control* inHand = nullptr;
 
   const WindowDesign& design() const { return design_; }

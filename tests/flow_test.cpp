@@ -3,6 +3,7 @@
 #include <functional>
 #include <stdexcept>
 
+#include "faces/shown.h"
 #include "tests/play.h"
 
 namespace zelvo::test {
@@ -39,6 +40,24 @@ TEST(Start, TheOpeningPlaysAndTheStartWindowWaits) {
   EXPECT_EQ(silent.played, 1) << "the opening alone";
   // Nothing starts while it sounds.
   EXPECT_EQ(Play("set Word \"NO\"\nclick GST.CMDSTART\n").back()["waiting"], "GST");
+}
+
+TEST(Start, OverAGameThatRunsTheLotInHandIsTheOneThatTheButtonsActOn) {
+  const std::string begun = "clock 12:00:37\nclick GST.CMDSTART\nclick GFM.Image1(0)\n";
+  for (const bool away : {false, true}) {
+    // With the board put away by its button, or from the start window behind it.
+    Scripted script(begun + (away ? "click GFM.CMDEXIT\n" : "") + "click GST.CMDSTART\n");
+    const auto lines = script.Lines();
+    Game& g = script.game();
+    const Control& lot = g.GFM->Image1[g.CurLot];
+    ASSERT_TRUE(g.GFM->CMDSELL.Visible && g.CurLot != 0);
+    EXPECT_TRUE(g.InHand(g.GFM) == &lot && Shown::Of(lot).inHand);
+    EXPECT_FALSE(Shown::Of(g.GFM->Image1[0]).inHand);
+  }
+  // Where no button stands it is the one that was clicked.
+  Scripted sold(begun + "click GFM.CMDSELL\n");
+  sold.Lines();
+  EXPECT_EQ(sold.game().InHand(sold.game().GFM), &sold.game().GFM->Image1[0]);
 }
 
 TEST(WaitLoops, EndWhenTheBoardGoesUnderThem) {

@@ -26,7 +26,7 @@ void FocusPath::CameTo(const Control& control) {
 
 void FocusPath::Leave(const ControlWidget& widget) {
   if (!widget.IsFocusOfItsWindow()) return;
-  const Control* held = view_.window().inHand;
+  const Control* held = view_.window().surface().InHand(view_.window());
   const bool isThere = held != nullptr && view_.Find(*held) != nullptr && TakesFocus(*held);
   passedTo_ = isThere ? held : FirstEntry(stops_, last_);
   if (passedTo_ == nullptr) return;

@@ -37,7 +37,8 @@ def write_pages(pages, colors, site):
         if page.suffix != ".js":
             (site / page.name).write_text(string.Template(page.read_text()).substitute(colors))
     esbuild = ["esbuild", "--minify", "--log-level=warning", f"--outdir={site}"]
-    subprocess.run([*esbuild, "--allow-overwrite", site / "style.css"], check=True)
+    sheets = [site / "style.css", site / "commands.css"]
+    subprocess.run([*esbuild, "--allow-overwrite", *sheets], check=True)
     subprocess.run([*esbuild, pages / "start.js", pages / "worker.js"], check=True)
     subprocess.run([*esbuild, "--bundle", "--format=esm", "--external:./commands.js",
                     pages / "main.js", pages / "commands.js"], check=True)

@@ -122,6 +122,12 @@ void Page::SyncControls() {
 
 void Page::Warn(std::string_view text) { Tell("notice", Quoted(text)); }
 
+void Page::WarnOfMisfit(std::string_view text) { Tell("misfit", Quoted(text)); }
+
+void Page::Say(std::string_view word) { Tell("word", Quoted(word)); }
+
+void Page::SetFile(std::string_view name) { Tell("file", Quoted(name)); }
+
 void Page::OpenMessage(std::string_view text, MessageStyle style, std::string_view title) {
   std::string json = "{\"text\":" + Quoted(text);
   json.append(",\"title\":").append(Quoted(title));

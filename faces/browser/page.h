@@ -34,6 +34,12 @@ class Page {
   bool Answer(std::string_view asked);
   /// Tells the player something; the game stands still until he has read it.
   void Warn(std::string_view text);
+  /// The same of the game that was under way and does not fit: he can have it in a file.
+  void WarnOfMisfit(std::string_view text);
+  /// Says something in passing, where nothing else shows what was done.
+  void Say(std::string_view word);
+  /// Files with this game get that name.
+  void SetFile(std::string_view name);
 
   void OpenMessage(std::string_view text, MessageStyle style, std::string_view title);
   void CloseMessage();

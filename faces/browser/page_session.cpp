@@ -10,7 +10,10 @@ namespace zelvo {
 
 void PageSession::Run() {
   page().Build(commandDesigns);
-  if (host::ZelvoKeptLength() > 0) GoOnWith("The game that was under way");
+  if (host::ZelvoKeptLength() > 0) {
+    const std::string error = GoOnWith("The game that was under way");
+    if (!error.empty()) page().WarnOfMisfit(error);
+  }
   do {
     if (IsReplacing()) MakeNext();
     Attach(game());
@@ -19,11 +22,12 @@ void PageSession::Run() {
   } while (IsReplacing());
 }
 
-void PageSession::GoOnWith(std::string_view name) {
+std::string PageSession::GoOnWith(std::string_view name) {
   KeptGame kept = Read(name, TakeKeptGame());
-  if (!kept.error.empty()) return page().Warn(kept.error);
+  if (!kept.error.empty()) return kept.error;
   GoOn(std::move(kept), false);
   BeginWriting();
+  return "";
 }
 
 // --- The game waits
@@ -48,14 +52,22 @@ void PageSession::Write(const std::string& lines, bool anew, bool /*lasting*/) {
 
 bool PageSession::CarryOut(std::string_view command) {
   if (command == "takeBack") {
+    if (CanDo(Command::TakeBack)) page().Say(takenBack);
     TakeBack();
   } else if (command == "doAgain") {
+    if (CanDo(Command::DoAgain)) page().Say(doneAgain);
     DoAgain();
   } else if (command == "keep") {
     const std::string text = Text();
     host::ZelvoKeep(text.data(), text.size());
   } else if (command.substr(0, 5) == "goOn ") {
-    GoOnWith(command.substr(5));
+    const std::string_view name = command.substr(5);
+    const std::string error = GoOnWith(name);
+    if (error.empty()) {
+      page().SetFile(name);
+    } else {
+      page().Warn(error);
+    }
   } else if (command == "state") {
     const std::string line = "{\"state\":" + StateAsJson(game()) + '}';
     host::ZelvoPrint(line.data(), line.size());

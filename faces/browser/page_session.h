@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "faces/browser/page_platform.h"
@@ -23,8 +24,8 @@ class PageSession final : public PagePlatform, private Session {
 
   void Write(const std::string& lines, bool anew, bool lasting) override;
 
-  /// Goes on with the kept game that the page has ready, or tells the player why not.
-  void GoOnWith(std::string_view name);
+  /// Goes on with the kept game that the page has ready; a sentence for the player if it cannot.
+  std::string GoOnWith(std::string_view name);
 };
 
 }  // namespace zelvo

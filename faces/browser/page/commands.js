@@ -4,25 +4,60 @@
 import { makeBox } from './dialogs.js';
 import { make } from './element.js';
 import { printed } from './keys.js';
+import { Word } from './word.js';
+
+export { Store } from './store.js';
 
 const longTouch = 600;  // milliseconds
 const slip = 10;  // pixels that a finger may move meanwhile
 const longestFile = 16 * 1024 * 1024;  // bytes, the games of a year
 const suffix = '.zelvo';
 
+const texts = {
+  noDownloads: 'This frame allows no downloads: nothing was kept in a file. Open Zelvo in a tab of its own.',
+  ifAllowed: ', if this frame allows downloads. If no file comes, open Zelvo in a tab of its own.',
+};
+
 /// A key as helpers know it.
 const shortcut = ({ key }) => key.replace('Ctrl', 'Control');
 
+/// Whether a download comes to the player; undefined where only the page around this one knows.
+function allowsDownloads() {
+  if (window.parent === window) return true;
+  const frame = window.frameElement;
+  if (frame === null) return undefined;
+  return frame.hasAttribute('sandbox') ? frame.sandbox.contains('allow-downloads') : undefined;
+}
+
+function download(list, file) {
+  const link = document.createElement('a');
+  link.href = URL.createObjectURL(new Blob([list], { type: 'application/x-zelvo-game' }));
+  link.download = file;
+  link.click();
+  setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
+}
+
+function makeItem(name, key) {
+  const item = make('button', 'item', make('span', '', name), make('kbd', '', key));
+  item.setAttribute('role', 'menuitem');
+  item.setAttribute('aria-label', name);
+  return item;
+}
+
 export class Commands {
+  #store;
   #queue;
   #clock;
   #sounds;
+  #word = new Word();
+  #file = `game${suffix}`;  // the name that a file with this game gets
   #designs = [];
   #can = { takeBack: false, doAgain: false };
   #touch = 0;  // a timer, while a finger may stay for long
   #touched = [0, 0];
 
-  constructor(queue, clock, sounds) {
+  constructor(store, queue, clock, sounds) {
+    this.#store = store;
     this.#queue = queue;
     this.#clock = clock;
     this.#sounds = sounds;
@@ -31,6 +66,10 @@ export class Commands {
   build(designs) {
     this.#designs = designs;
     if (designs.length === 0) return;
+    const style = document.createElement('link');
+    style.rel = 'stylesheet';
+    style.href = 'commands.css';
+    document.head.append(style);
     document.body.setAttribute('aria-keyshortcuts', designs.map(shortcut).join(' '));
     // Ahead of all that the game's own windows do with keys and clicks.
     addEventListener('keydown', (event) => this.#keyPressed(event), true);
@@ -40,6 +79,7 @@ export class Commands {
     for (const end of ['pointerup', 'pointercancel']) {
       addEventListener(end, () => clearTimeout(this.#touch), true);
     }
+    addEventListener('resize', () => document.querySelector('.menu')?.close());
     addEventListener('dragover', (event) => event.preventDefault());
     addEventListener('drop', (event) => {
       event.preventDefault();
@@ -47,17 +87,32 @@ export class Commands {
     });
   }
 
-  show({ can, notice }) {
+  show({ can, notice, misfit, word, file }) {
     if (can !== undefined) [this.#can.takeBack, this.#can.doAgain] = can;
+    if (word !== undefined) this.say(word);
+    if (file !== undefined) this.#file = file.endsWith(suffix) ? file : file + suffix;
     if (notice !== undefined) this.#warn(notice);
+    if (misfit !== undefined) {
+      this.#store.setAside();
+      this.#warn(misfit, 'Keep it in a file');
+    }
   }
 
-  download(list) {
-    const link = document.createElement('a');
-    link.href = URL.createObjectURL(new Blob([list], { type: 'application/x-zelvo-game' }));
-    link.download = `game${suffix}`;
-    link.click();
-    setTimeout(() => URL.revokeObjectURL(link.href), 60_000);
+  /// Says what the player would not see otherwise.
+  say(sentence) {
+    this.#word.say(sentence);
+  }
+
+  /// The player gets the list in a file.
+  keep(list) {
+    const allows = allowsDownloads();
+    if (allows !== false) download(list, this.#file);
+    this.say(allows === false ? texts.noDownloads : `Kept in ${this.#file}${allows ? '.' : texts.ifAllowed}`);
+  }
+
+  #downloadMisfit() {
+    if (allowsDownloads() === false) this.say(texts.noDownloads);
+    else download(this.#store.takeMisfit(), `misfit${suffix}`);
   }
 
   get #isOpen() {
@@ -72,6 +127,7 @@ export class Commands {
     if (!this.#canDo(design)) return;
     if (design.does === 'setPace') {
       this.#clock.setPace(design.pace);
+      this.say(`${design.name}.`);
     } else if (design.does === 'goOn') {
       this.#chooseFile();
     } else {
@@ -116,10 +172,17 @@ export class Commands {
     dialog.showModal();
   }
 
-  #warn(sentence) {
-    const notice = makeBox('notice', '!', { title: 'Zelvo', text: sentence, answers: ['OK'] });
+  /// Tells the player something, and offers him what can be done about it.
+  #warn(sentence, offer) {
+    const answers = offer === undefined ? ['OK'] : [offer, 'OK'];
+    const notice = makeBox('notice', '!', { title: 'Zelvo', text: sentence, answers });
     notice.classList.add('own');
-    notice.querySelector('.answer').addEventListener('click', () => notice.close());
+    for (const answer of notice.querySelectorAll('.answer')) {
+      answer.addEventListener('click', () => {
+        notice.close();
+        if (answer.textContent === offer) this.#downloadMisfit();
+      });
+    }
     this.#open(notice);
   }
 
@@ -127,14 +190,22 @@ export class Commands {
     if (this.#isOpen || document.body.dataset.waiting === 'ended') return;
     const list = make('div', '');
     list.setAttribute('role', 'menu');
-    const menu = make('dialog', 'menu own', list);
+    const place = make('p', 'place', this.#store.place);
+    place.id = 'place';
+    list.setAttribute('aria-describedby', place.id);
+    const menu = make('dialog', 'menu own', place, list);
     for (const named of [menu, list]) named.setAttribute('aria-label', 'Game');
     for (const design of this.#designs) {
       if (design.pace === 1) list.append(document.createElement('hr'));
-      list.append(this.#makeItem(design, menu));
+      list.append(this.#makeItem(design));
     }
+    if (this.#store.hasMisfit) {
+      const item = makeItem('Keep the game that did not fit in a file...', '');
+      item.addEventListener('click', () => this.#downloadMisfit());
+      list.append(document.createElement('hr'), item);
+    }
+    menu.addEventListener('click', ({ target }) => target.closest('.item') && menu.close());
     this.#listenTo(menu);
-    addEventListener('resize', () => menu.close(), { once: true });
     this.#open(menu);
     const { width, height } = menu.getBoundingClientRect();
     menu.style.left = `${Math.max(0, Math.min(left, innerWidth - width))}px`;
@@ -154,19 +225,16 @@ export class Commands {
     }, true);
   }
 
-  #makeItem(design, menu) {
-    const item = make('button', 'item', make('span', '', design.name), make('kbd', '', design.key));
-    const isPace = design.pace !== 0;
-    item.setAttribute('role', isPace ? 'menuitemradio' : 'menuitem');
-    item.setAttribute('aria-label', design.name);
+  #makeItem(design) {
+    const item = makeItem(design.name, design.key);
+    if (design.pace !== 0) {
+      item.setAttribute('role', 'menuitemradio');
+      item.setAttribute('aria-checked', design.pace === this.#clock.pace);
+    }
     item.setAttribute('aria-keyshortcuts', shortcut(design));
-    if (isPace) item.setAttribute('aria-checked', design.pace === this.#clock.pace);
     item.dataset.command = design.key;
     item.disabled = !this.#canDo(design);
-    item.addEventListener('click', () => {
-      menu.close();
-      this.#do(design);
-    });
+    item.addEventListener('click', () => this.#do(design));
     return item;
   }
 

@@ -3,8 +3,8 @@
 import { Clock } from './clock.js';
 import { load } from './loader.js';
 import { Queue } from './queue.js';
+import { Shelf } from './shelf.js';
 import { Sounds } from './sound.js';
-import { Store } from './store.js';
 import { View } from './view.js';
 
 const { say, suspends, program, pictures } = window.zelvoStart;
@@ -23,8 +23,11 @@ async function addresses(fetched) {
     [file, URL.createObjectURL(new Blob([drawing], { type: 'image/svg+xml' }))]);
 }
 
+/// What is told to those whom the first window waits for.
+const forCommands = ['can', 'notice', 'misfit', 'word', 'file'];
+
 /// What the program calls. It suspends in `wait`, `pause` and `playCue` only.
-function makeHost(memory, { view, queue, clock, sounds, scripted, store, whole, kept }) {
+function makeHost(memory, { view, queue, clock, sounds, scripted, whole, kept }) {
   const decoder = new TextDecoder();
   const encoder = new TextEncoder();
   const bytes = (start, length) => new Uint8Array(memory().buffer, start, length);
@@ -48,20 +51,23 @@ function makeHost(memory, { view, queue, clock, sounds, scripted, store, whole, 
     design(start, length) {
       const design = JSON.parse(text(start, length));
       view.build(design);
-      whole.then((commands) => commands.build(design.commands));
+      whole.then(({ commands }) => commands.build(design.commands));
       painted.then(() => sounds.fetchAhead(design.cues));
     },
     show(start, length) {
       const change = JSON.parse(text(start, length));
       view.show(change);
       isShown();
-      if ('can' in change || 'notice' in change) whole.then((commands) => commands.show(change));
-      if (change.waiting === 'ended') store.forget();
+      if (forCommands.some((what) => what in change)) whole.then(({ commands }) => commands.show(change));
+      if (change.waiting === 'ended') whole.then(({ store }) => store.forget());
     },
-    store: (start, length, anew) => void store.put(text(start, length), anew !== 0),
+    store(start, length, anew) {
+      const lines = text(start, length);
+      whole.then(({ store }) => store.put(lines, anew !== 0));
+    },
     keep(start, length) {
       const list = text(start, length);
-      whole.then((commands) => commands.download(list));
+      whole.then(({ commands }) => commands.keep(list));
     },
     keptLength: () => kept?.length ?? 0,
     takeKept(start) {
@@ -94,30 +100,33 @@ class Script {
   }
 }
 
-/// What the player does with the game as a whole comes when the page stands.
-async function fetchCommands(...parts) {
+/// What the player does with the game as a whole, and what stores it, comes when the page stands.
+async function fetchCommands(shelf, ...parts) {
   await painted;
-  const { Commands } = await import('./commands.js');
-  return new Commands(...parts);
+  const { Commands, Store } = await import('./commands.js');
+  const store = new Store(shelf, (sentence) => commands.say(sentence));
+  const commands = new Commands(store, ...parts);
+  return { commands, store };
 }
 
 async function main() {
   const clock = new Clock();
   const scripted = new Script();
-  const store = new Store();
-  const interrupted = isVirtual ? Promise.resolve(null) : store.read();
+  const shelf = new Shelf();
+  const interrupted = isVirtual ? null : shelf.read();
   const view = new View(!isVirtual);
   view.bringPictures(await addresses(pictures));
   const queue = new Queue(() => view.scene, clock);
   const sounds = new Sounds(clock);
-  const whole = fetchCommands(queue, clock, sounds);
-  const kept = await interrupted;
+  const whole = fetchCommands(shelf, queue, clock, sounds);
+  await interrupted;
+  const kept = shelf.found;
   const bringOthers = async () => view.bringPictures(await addresses(fetch('pictures.json')));
   // A game that goes on is seen at once as it was.
   if (kept === null) painted.then(bringOthers).catch(stop);
   else await bringOthers();
   const play = await load(program, suspends, (memory) =>
-    makeHost(memory, { view, queue, clock, sounds, scripted, store, whole, kept }));
+    makeHost(memory, { view, queue, clock, sounds, scripted, whole, kept }));
   view.listen((command) => queue.put(command), (question) => queue.order(question));
   window.zelvo = {
     deeds: scripted.deeds,
@@ -127,7 +136,6 @@ async function main() {
   addEventListener('beforeunload', (event) => {
     if (view.isUnderWay) event.preventDefault();
   });
-  addEventListener('pagehide', () => store.leave());
   painted.then(() => navigator.serviceWorker?.register('worker.js'));
   await play(Number(isVirtual));
 }

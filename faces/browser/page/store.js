@@ -1,114 +1,197 @@
-// The list of the game that is under way, in the browser's storage: what throws the page away (the
-// system in the background, a crash, a reload) throws away no game. Whoever ends a game, or leaves
-// its tab for good, finds a new one the next time.
+// Puts the list of the game that is under way on its shelf, deed by deed, and tells the player when
+// it does not lie there.
 
-const name = 'zelvo-game';  // of all that is kept: a database, a lock, a note
-const underWay = 'under way';
-const left = 'left';
-const patience = 1000;  // milliseconds for the page that was here before to let go of the game
 const longestPart = 16_384;
+const patience = 1000;  // milliseconds until the player hears that another page keeps its game
+const texts = {
+  none: 'There is nothing to keep yet.',
+  kept: 'This game is kept in this browser.',
+  again: 'This game is kept in this browser again.',
+  other: 'The game in another tab is the one that is kept. This one will be when that is closed;'
+    + ' Ctrl+S keeps it in a file.',
+  takenOver: 'The other game is closed: this one is kept in this browser from now on.',
+  failed: 'This browser does not keep the game: when the page closes, it is gone. Ctrl+S keeps it in a file.',
+};
 
 export class Store {
-  #holding = null;  // tells whether this page is the one that keeps its game
-  #database = null;
-  #part = 0;  // the list lies in parts, of which the last one grows
-  #text = '';
-  #anew = false;
+  place = texts.none;  // where the game is kept, as a sentence
+  #shelf;
+  #tell;
+  #parts = [''];  // the whole list; the last part grows
+  #lies = null;  // what was put there last: how many parts that grow no more, and letters in all
   #isDirty = false;
-  #isWriting = false;
+  #isBusy = false;
   #isOver = false;
 
-  /// The text of the game that was interrupted, as bytes; null if there is none.
-  async read() {
-    try {
-      const note = localStorage.getItem(name);
-      const isBack = note === underWay || (note === left && sessionStorage.getItem(name) !== null);
-      if (!isBack || !await this.#hold()) return null;
-      const store = this.#database.transaction('parts').objectStore('parts');
-      const parts = await finished(store.getAll());
-      return parts.length === 0 ? null : new TextEncoder().encode(parts.join(''));
-    } catch (error) {
-      console.warn(error);  // a browser that stores nothing for us still plays
-      return null;
-    }
+  /// `tell` gets a sentence for the player.
+  constructor(shelf, tell) {
+    this.#shelf = shelf;
+    this.#tell = tell;
+    addEventListener('pagehide', ({ persisted }) => {
+      if (!persisted && shelf.isOurs) write('localStorage', shelf.name, shelf.page);  // it is left
+    });
   }
 
   /// Adds to the list, or puts another one in its place.
-  async put(text, anew) {
+  put(text, anew) {
+    if (this.#isOver) return;
     if (anew) {
-      this.#anew = true;
-      this.#part = 0;
-      this.#text = '';
+      this.#parts = [''];
+      this.#lies = null;
     }
-    this.#text += text;
-    this.#isDirty = true;
-    if (this.#isWriting) return;
-    this.#isWriting = true;
-    try {
-      if (await this.#hold()) await this.#write();
-      else this.#text = '';
-      this.#isWriting = false;
-    } catch (error) {
-      console.warn(error);  // from here on nothing more is stored
-    }
-  }
-
-  /// The player has left the game.
-  leave() {
-    if (this.#database !== null) localStorage.setItem(name, left);
+    if (this.#parts.at(-1).length > longestPart) this.#parts.push('');
+    this.#parts[this.#parts.length - 1] += text;
+    this.#work();
   }
 
   /// The game is over.
   forget() {
     this.#isOver = true;
-    this.leave();
-    sessionStorage.removeItem(name);
+    this.#isDirty = false;
+    const { isOurs, name, page } = this.#shelf;
+    if (!isOurs) return;
+    write('sessionStorage', name, '');
+    write('localStorage', name, page);
+    this.#work();
   }
 
-  async #write() {
-    while (this.#isDirty) {
-      const writing = this.#database.transaction('parts', 'readwrite');
-      const store = writing.objectStore('parts');
-      if (this.#anew) store.clear();
-      store.put(this.#text, this.#part);
-      if (this.#text.length > longestPart) {
-        ++this.#part;
-        this.#text = '';
+  get hasMisfit() {
+    return this.#shelf.misfit !== undefined;
+  }
+
+  /// What was found does not fit the game: it makes room for the next one, and lies there until the
+  /// player takes it.
+  setAside() {
+    const { found, isOurs } = this.#shelf;
+    this.#shelf.misfit = found;
+    this.#change((parts) => {
+      parts.put(found, 'misfit');
+      if (isOurs) clear(parts);
+      else parts.delete('aside');
+    }).catch(console.warn);
+  }
+
+  takeMisfit() {
+    const { misfit } = this.#shelf;
+    this.#shelf.misfit = undefined;
+    this.#change((parts) => parts.delete('misfit')).catch(console.warn);
+    return misfit;
+  }
+
+  async #work() {
+    this.#isDirty = true;
+    if (this.#isBusy) return;
+    this.#isBusy = true;
+    try {
+      await this.#hold();
+      while (this.#isDirty) {
+        this.#isDirty = false;
+        await this.#write().catch((error) => this.#writeAgain(error));
+        if (!this.#isOver) this.#wrote();
       }
-      this.#anew = this.#isDirty = false;
-      await new Promise((resolve, reject) => {
-        writing.oncomplete = resolve;
-        writing.onabort = () => reject(writing.error);
-      });
-      if (this.#isOver) return;
-      localStorage.setItem(name, underWay);
-      sessionStorage.setItem(name, underWay);
+    } catch (error) {
+      console.warn(error);
+      this.#say(texts.failed);  // and tries again with the next deed
+    } finally {
+      this.#isBusy = false;
+    }
+    if (this.#isOver) this.#shelf.letGo?.();
+  }
+
+  async #hold() {
+    if (this.#shelf.isOurs) return;
+    const late = setTimeout(() => this.#say(texts.other), patience);
+    try {
+      await this.#shelf.hold();
+    } finally {
+      clearTimeout(late);
     }
   }
 
-  /// One page at a time keeps its game, for as long as it is there. False if another one does.
-  #hold() {
-    this.#holding ??= new Promise((resolve, reject) => {
-      const options = { signal: AbortSignal.timeout(patience) };
-      const forEver = new Promise(() => {});
-      navigator.locks.request(name, options, () => {
-        this.#open().then(() => resolve(true), reject);
-        return forEver;
-      }).catch(() => resolve(false));
-    });
-    return this.#holding;
+  #writeAgain(error) {
+    console.warn(error);
+    this.#shelf.close();
+    return this.#write();
   }
 
-  async #open() {
-    const opening = indexedDB.open(name);
-    opening.onupgradeneeded = () => opening.result.createObjectStore('parts');
-    this.#database = await finished(opening);
+  async #write() {
+    if (this.#isOver) {
+      await this.#change(clear);
+      return;
+    }
+    const { page } = this.#shelf;
+    const whole = this.#parts;
+    const list = [...whole];
+    const letters = list.reduce((sum, part) => sum + part.length, 0);
+    await this.#change((parts, lies) => {
+      const isThere = lies?.page === page && lies.letters === this.#lies?.letters;
+      if (!isThere) this.#makeRoom(parts, lies?.page);
+      for (let at = isThere ? this.#lies.parts : 0; at < list.length; ++at) parts.put(list[at], at);
+      parts.put({ page, letters }, 'note');
+    });
+    if (this.#parts === whole) this.#lies = { parts: list.length - 1, letters };
+  }
+
+  /// A page that was thrown away while this one was beside it finds its game aside when it comes back.
+  #makeRoom(parts, page) {
+    const shelf = this.#shelf;
+    if (![undefined, shelf.page, shelf.before, read('localStorage', shelf.name)].includes(page)) {
+      parts.getAll(numbers()).onsuccess = ({ target }) =>
+        parts.put({ page, list: target.result.join('') }, 'aside');
+    }
+    clear(parts);
+  }
+
+  /// Does something in one transaction, with the parts and the note that lies there. What it did has
+  /// come to the disk, or nothing of it.
+  async #change(task) {
+    const database = await this.#shelf.open();
+    const changing = database.transaction('parts', 'readwrite', { durability: 'strict' });
+    const parts = changing.objectStore('parts');
+    parts.get('note').onsuccess = ({ target }) => task(parts, target.result);
+    await new Promise((resolve, reject) => {
+      changing.oncomplete = resolve;
+      changing.onabort = () => reject(changing.error ?? new Error('the browser has given it up'));
+    });
+  }
+
+  #wrote() {
+    const before = this.place;
+    if (before === texts.kept) return;
+    this.place = texts.kept;
+    write('sessionStorage', this.#shelf.name, this.#shelf.page);  // a tab that comes back goes on
+    if (before === texts.other) this.#tell(texts.takenOver);
+    if (before === texts.failed) this.#tell(texts.again);
+  }
+
+  #say(sentence) {
+    if (this.place === sentence) return;
+    this.place = sentence;
+    this.#tell(sentence);
   }
 }
 
-function finished(request) {
-  return new Promise((resolve, reject) => {
-    request.onsuccess = () => resolve(request.result);
-    request.onerror = () => reject(request.error);
-  });
+const numbers = () => IDBKeyRange.bound(0, Infinity);
+
+function clear(parts) {
+  parts.delete(numbers());
+  parts.delete('note');
+}
+
+// Notes beside the database, in a storage that the browser may not give.
+
+function read(storage, name) {
+  try {
+    return window[storage].getItem(name);
+  } catch {
+    return null;
+  }
+}
+
+function write(storage, name, text) {
+  try {
+    window[storage].setItem(name, text);
+  } catch (error) {
+    console.warn(error);
+  }
 }

@@ -180,7 +180,7 @@ test('a file of another face goes on, deeds are taken back in a message box, and
     assert.match(sentence, new RegExp(`^bad\\.zelvo cannot be gone on with: ${why}\\.$`));
     await page.keyboard.press('Enter');
     await page.waitForSelector('[data-window=notice]', { state: 'detached' });
-    assert.deepEqual(await now(page), before);
+    assert.deepEqual(await now(page), unasked);
   }
   assert.deepEqual(page.wrongs, []);
 });

@@ -24,13 +24,13 @@ export async function start() {
     readline.createInterface({ input: server.stdout }).once('line', (line) => done([line]));
   });
   const profile = mkdtempSync(join(tmpdir(), 'zelvo-browser-'));
-  const launched = {
+  const options = {
     executablePath: process.env.CHROMIUM ?? '/usr/bin/chromium',
     args: ['--no-sandbox', '--disable-gpu', '--disable-quic', '--no-first-run', '--window-size=1280,1000',
       '--disable-background-networking', '--disable-component-update', '--disable-sync'],
     env: { ...process.env, HOME: profile },
   };
-  const browser = await chromium.launch(launched);
+  const browser = await chromium.launch(options);
   return {
     address,
     /// A new page with a profile of its own. What goes wrong in it is gathered in `page.wrongs`.
@@ -52,11 +52,13 @@ export async function start() {
       const folder = mkdtempSync(join(profile, 'set-up-'));
       mkdirSync(join(folder, 'Default'));
       writeFileSync(join(folder, 'Default/Preferences'), JSON.stringify(preferences));
-      const context = await chromium.launchPersistentContext(folder, { ...launched, viewport: null });
+      const context = await chromium.launchPersistentContext(folder, { ...options, viewport: null });
       const page = await context.newPage();
       await page.goto(address + query);
       return page;
     },
+    /// A browser of its own, whose profile lies in a folder and stays.
+    persistent: (folder) => chromium.launchPersistentContext(folder, options),
     async closePages() {
       for (const context of browser.contexts()) await context.close();
     },

@@ -14,7 +14,8 @@ class Game : public GameWindows, public ProgramVariables, public GameVariables {
   explicit Game(Platform& platform);
 
   /// On the board, the lot that its buttons act on while there are any. As a rule that is the one
-  /// that was clicked last, but a game that is started over another one leaves the buttons standing.
+  /// that was clicked last, but a game that is started over another one leaves the buttons
+  /// standing.
   const Control* InHand(const Window& window) const override;
 
   RandomGenerator Generator;

@@ -24,7 +24,9 @@ export class Shelf {
     try {
       const before = sessionStorage.getItem(name);
       const left = localStorage.getItem(name);
-      let { list, page, aside, misfit } = await this.#look();
+      const found = await this.#look();
+      const { page, aside, misfit } = found;
+      let { list } = found;
       this.misfit = misfit;
       if (before !== null && aside?.page === before) {
         ({ list } = aside);

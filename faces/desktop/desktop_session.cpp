@@ -271,7 +271,7 @@ void DesktopSession::Say(const std::string& text, const std::function<void()>& a
 void DesktopSession::SayWord(const QString& text) {
   WindowView* front = Front();
   if (front == nullptr) return;
-  delete front->findChild<Word*>();
+  delete front->findChild<QLabel*>(Word::name);
   new Word(text, front);  // which goes by itself
   platform_.screen.voice.Say(text);
 }

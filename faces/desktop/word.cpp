@@ -11,6 +11,7 @@ namespace zelvo {
 Word::Word(const QString& text, QWidget* window) : QLabel(text, window) {
   constexpr int shortest = 3000;  // milliseconds
   constexpr int perLetter = 60;   // milliseconds, at an easy pace of reading
+  setObjectName(name);
   setTextFormat(Qt::PlainText);
   setWordWrap(true);
   setAlignment(Qt::AlignCenter);

@@ -9,6 +9,9 @@ namespace zelvo {
 /// window for as long as it takes to read it, and takes no click.
 class Word : public QLabel {
  public:
+  /// The name of the one that a window shows.
+  static constexpr const char* name = "word";
+
   Word(const QString& text, QWidget* window);
 
  private:

@@ -198,7 +198,7 @@ TEST_F(KeptOnDesktop, ItIsToldWhatACommandDidAndWhereTheGameIsKept) {
   Run({Press(game.GST.Untouched().CMDSTART)});
   ASSERT_EQ(session.Keep(file.toStdString()), "");
   const auto told = [this] {
-    auto* word = platform.screen.Front()->findChild<Word*>();
+    auto* word = platform.screen.Front()->findChild<QLabel*>(Word::name);
     return word == nullptr ? QString() : word->text();
   };
   EXPECT_EQ(told(), "Kept in a.zelvo.");

@@ -89,6 +89,8 @@ void Session::GoOn(KeptGame kept, bool isWritten) {
 
 std::string Session::Text() {
   const GameList& list = journal_->list();
+  // It may be asked for ahead of the next wait.
+  if (IsBoardShown()) standing_ = Written::AllOf(list);
   return TextOf(*game_, standing_ ? Beginning(list, *standing_) : list);
 }
 

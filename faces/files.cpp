@@ -117,7 +117,7 @@ std::string TargetOf(std::string path) {
     const ssize_t length = readlink(path.c_str(), room.data(), room.size());
     if (length == -1) return path;
     const std::string target(room.data(), static_cast<std::size_t>(length));
-    path = target.starts_with("/") ? target : FolderOf(path) + "/" + target;
+    path = target.starts_with("/") ? target : FolderOf(path).append("/").append(target);
   }
   return path;
 }

@@ -34,7 +34,7 @@ using GameList = std::vector<Entry>;
 /// So many readings or returns at most stand in one entry.
 constexpr std::uint32_t longestRun = 1'000'000;
 /// A text of more bytes is not read.
-constexpr std::size_t longestText = 16 * 1024 * 1024;
+constexpr std::size_t longestText = 16'777'216;  // 16 MiB
 
 Entry EntryOf(Surface& surface, const Deed& deed);
 Deed DeedOf(Surface& surface, const Entry& entry);
